@@ -1,0 +1,52 @@
+#pragma once
+
+#include "KObject.h"
+
+/*!
+ * The interaction state of one item, as its data objects see it.
+ *
+ * A component binds the five flags to its own states and hands the object to its data object.
+ * All flags are false at first. Each has its own change signal; eventDataChanged() follows every
+ * change one event-loop turn later, so that listeners see the flags as they have settled.
+ */
+class UTEventData : public KObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool enabled READ enabled WRITE setEnabled NOTIFY enabledChanged FINAL)
+    Q_PROPERTY(bool hovered READ hovered WRITE setHovered NOTIFY hoveredChanged FINAL)
+    Q_PROPERTY(bool activeFocus READ activeFocus WRITE setActiveFocus NOTIFY activeFocusChanged FINAL)
+    Q_PROPERTY(bool checked READ checked WRITE setChecked NOTIFY checkedChanged FINAL)
+    Q_PROPERTY(bool pressed READ pressed WRITE setPressed NOTIFY pressedChanged FINAL)
+
+public:
+    explicit UTEventData(QObject *parent = nullptr);
+
+    bool enabled() const { return m_enabled; }
+    bool hovered() const { return m_hovered; }
+    bool activeFocus() const { return m_activeFocus; }
+    bool checked() const { return m_checked; }
+    bool pressed() const { return m_pressed; }
+
+    void setEnabled(bool enabled);
+    void setHovered(bool hovered);
+    void setActiveFocus(bool activeFocus);
+    void setChecked(bool checked);
+    void setPressed(bool pressed);
+
+Q_SIGNALS:
+    void enabledChanged();
+    void hoveredChanged();
+    void activeFocusChanged();
+    void checkedChanged();
+    void pressedChanged();
+    void eventDataChanged();
+
+private:
+    void setFlag(bool &flag, bool value, void (UTEventData::*changed)());
+
+    bool m_enabled = false;
+    bool m_hovered = false;
+    bool m_activeFocus = false;
+    bool m_checked = false;
+    bool m_pressed = false;
+};

@@ -1,0 +1,101 @@
+#include "DataRegistration.h"
+
+#include "AwaitedData.h"
+#include "UTAlertBannerEnum.h"
+#include "UTButtonSize.h"
+#include "UTButtonStyle.h"
+#include "UTButtonType.h"
+#include "UTCallControlButtonEnum.h"
+#include "UTChipStyle.h"
+#include "UTColorData.h"
+#include "UTColorSetData.h"
+#include "UTDiscoverabilityEnum.h"
+#include "UTDynamicResource.h"
+#include "UTEventData.h"
+#include "UTIndentationBarEnum.h"
+#include "UTIndicatorBadgeEnum.h"
+#include "UTListAvatarSearchItem.h"
+#include "UTMenuEnum.h"
+#include "UTPopOverEnum.h"
+#include "UTPopupEnum.h"
+#include "UTTextButtonEnum.h"
+#include "UTTooltipEnum.h"
+#include "UTWatermarkEnum.h"
+
+#include <QMovie>
+#include <QtQml/qqml.h>
+
+namespace {
+
+// A fixed name, not derived from the main module's URI.
+constexpr const char *dataUri = "UIToolkitQml_Private_Data";
+
+template<typename T>
+void registerAttached(const char *name)
+{
+    qmlRegisterUncreatableType<T>(dataUri, 1, 0, name,
+                                  QLatin1StringView(name) + QStringLiteral(" attached property."));
+}
+
+void registerEnum(const QMetaObject &metaObject, const char *uri, const char *name)
+{
+    qmlRegisterUncreatableMetaObject(metaObject, uri, 1, 0, name,
+                                     QLatin1StringView(name) + QStringLiteral(" enum property."));
+}
+
+// Makes the enumerations known by name, so that they travel in variants and queued signals and
+// print their keys.
+template<typename... Enums>
+void registerMetaTypes()
+{
+    (qRegisterMetaType<Enums>(), ...);
+}
+
+} // namespace
+
+void DataRegistration::registerAll(const char *uri)
+{
+    registerAttached<AwaitedData>("UTPillButtonData");
+    registerAttached<AwaitedData>("UTTextButtonData");
+    registerAttached<AwaitedData>("UTMultilinePillButtonData");
+    registerAttached<AwaitedData>("UTRectangleButtonData");
+    registerAttached<AwaitedData>("UTRoundButtonData");
+    registerAttached<AwaitedData>("UTIconButtonData");
+    registerAttached<AwaitedData>("UTChipData");
+    registerAttached<AwaitedData>("UTPopOverData");
+    registerAttached<AwaitedData>("UTCallControlButtonData");
+    registerAttached<AwaitedData>("UTBlockButtonData");
+    registerAttached<UTColorSetData>("UTColorSetData");
+    registerAttached<AwaitedData>("UTWatermarkData");
+    registerAttached<AwaitedData>("UTRichTextAreaData");
+    registerAttached<AwaitedData>("UTToolTipData");
+    registerAttached<AwaitedData>("UTDynamicResourceData");
+    registerAttached<AwaitedData>("UTKeyEventData");
+    registerAttached<AwaitedData>("UTEventFilterData");
+    registerAttached<AwaitedData>("UTShortcutOverride");
+    registerAttached<UTColorData>("UTColorData");
+
+    qmlRegisterType<UTEventData>(dataUri, 1, 0, "UTEventData");
+    AwaitedData::registerCreatable(dataUri, "UTListData");
+    AwaitedData::registerCreatable(dataUri, "UTLinkData");
+
+    qmlRegisterType<QMovie>(uri, 1, 0, "KMovie");
+
+    registerEnum(UTButtonStyle::staticMetaObject, uri, "UTButtonStyle");
+    registerEnum(UTButtonSize::staticMetaObject, uri, "UTButtonSize");
+    registerEnum(UTButtonType::staticMetaObject, uri, "UTButtonType");
+    registerEnum(UTChipStyle::staticMetaObject, uri, "UTChipStyle");
+
+    registerMetaTypes<
+        UTButtonStyle::Style, UTButtonSize::Size, UTButtonType::Type, UTChipStyle::Style,
+        UTCallControlButtonEnum::ButtonType, UTCallControlButtonEnum::ButtonStyle,
+        UTCallControlButtonEnum::ButtonSize, UTCallControlButtonEnum::ButtonState,
+        UTTextButtonEnum::TextButtonColorStyle, UTTextButtonEnum::TextButtonSizeStyle,
+        UTAlertBannerEnum::BannerType, UTAlertBannerEnum::BannerIconPositionType, UTAlertBannerEnum::BannerFontType,
+        UTIndicatorBadgeEnum::IndicatorBadgeType, UTIndentationBarEnum::Type, UTListAvatarSearchItem::Action,
+        UTListAvatarSearchItem::Style, UTListAvatarSearchItem::SourceModule, UTPopOverEnum::Size,
+        UTPopOverEnum::ArrowAnchor, UTPopOverEnum::ArrowAlignment, UTTooltipEnum::TooltipStyle,
+        UTTooltipEnum::ArrowAnchor, UTTooltipEnum::ArrowAlignment, UTPopupEnum::Alignment, UTMenuEnum::Style,
+        UTMenuEnum::Size, UTDiscoverabilityEnum::DiscoverabilityLabelType, UTWatermarkEnum::WatermarkSize,
+        UTDynamicResource::Type>();
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+// The native data types as the tools see them; see ToolingTypes.h for why this is a file of its own.
+
+#include "UTColorData.h"
+#include "UTColorSetData.h"
+#include "UTEventData.h"
+
+#include <QtQml/qqml.h>
+
+struct UTColorSetDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTColorSetData)
+    QML_NAMED_ELEMENT(UTColorSetData)
+    QML_ATTACHED(UTColorSetData)
+    QML_UNCREATABLE("UTColorSetData attached property.")
+};
+
+struct UTColorDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTColorData)
+    QML_NAMED_ELEMENT(UTColorData)
+    QML_ATTACHED(UTColorData)
+    QML_UNCREATABLE("UTColorData attached property.")
+};
+
+struct UTEventDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTEventData)
+    QML_NAMED_ELEMENT(UTEventData)
+};

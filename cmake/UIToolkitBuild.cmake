@@ -1,0 +1,34 @@
+# Settings that every target of this build shares, and the helpers that set up tests and QML modules.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_INCLUDE_CURRENT_DIR OFF)
+
+# Every QML module of this build lies below this folder; it is the one import path that programs and tools need.
+set(UITOOLKIT_QML_DIR "${CMAKE_BINARY_DIR}/qml")
+set(QT_QML_OUTPUT_DIRECTORY "${UITOOLKIT_QML_DIR}")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(UITOOLKIT_INSTALL_QML_DIR "${CMAKE_INSTALL_LIBDIR}/qml")
+
+foreach(policy QTP0001 QTP0004)
+    if(COMMAND qt_policy)
+        qt_policy(GET ${policy} known)
+        qt_policy(SET ${policy} NEW)
+    endif()
+endforeach()
+
+if(UITOOLKIT_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# The warnings and definitions of our own C++; code that the Qt tools generate is built without them.
+add_library(uitoolkit_options INTERFACE)
+target_compile_options(uitoolkit_options INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${UITOOLKIT_WERROR}>:-Werror>)
+target_compile_definitions(uitoolkit_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)

@@ -34,7 +34,7 @@ set_stage() {
     : >"$log"
     cp "$real_tree/toolkit" "$real_tree/CMakePresets.json" "$tree"
     local tool
-    for tool in awk bash cat chmod cp dirname env find flock grep mkdir mv printf rm sed sh sort stat tail touch umount \
+    for tool in awk bash cat chmod cp dirname env find flock grep mkdir mktemp mv printf rm sed sh sort stat tail touch umount \
         xargs git; do
         ln -s "$(command -v "$tool")" "$area/tools/$tool"
     done

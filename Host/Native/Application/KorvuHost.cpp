@@ -1,0 +1,23 @@
+#include "KorvuHost.h"
+
+#include <QQmlEngine>
+
+#include "App.h"
+#include "EmojiImageProvider.h"
+#include "EmojiText.h"
+#include "KFont.h"
+#include "KSvgImageProvider.h"
+
+void KorvuHost::install(QQmlEngine *engine)
+{
+    KFont::installSubstitutions();
+    App::instance();
+    if (!engine)
+        return;
+    // An application's own provider of the same name stays.
+    const QString emojiProvider = QLatin1StringView(EmojiText::imageProviderId);
+    if (!engine->imageProvider(emojiProvider))
+        engine->addImageProvider(emojiProvider, new EmojiImageProvider);
+    if (!engine->imageProvider(KSvgImageProvider::providerId()))
+        engine->addImageProvider(KSvgImageProvider::providerId(), new KSvgImageProvider);
+}

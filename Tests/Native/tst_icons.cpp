@@ -177,7 +177,7 @@ void TestIcons::artwork_data()
 {
     QTest::addColumn<QString>("path");
     for (const char *path :
-         {":/Resources/spinner.svg", ":/Resources/illustration-empty.svg", ":/Resources/sample-landscape.png",
+         {":/Resources/spinner.svg", ":/Resources/empty-inbox.svg", ":/Resources/sample-landscape.png",
           ":/Resources/audio-wave-0.svg", ":/Resources/audio-wave-3.svg", ":/emojis/smile.svg", ":/emojis/heart.svg",
           ":/emojis/celebrate.svg"})
         QTest::newRow(path) << QString::fromLatin1(path);

@@ -1,0 +1,59 @@
+import QtQuick
+import Korvu 1.0
+
+Window {
+    id: window
+
+    width: 320
+    height: 200
+    visible: true
+    title: "Host"
+
+    component Action: Rectangle {
+        id: action
+
+        signal triggered
+
+        width: 100
+        height: 30
+        activeFocusOnTab: true
+        color: activeFocus ? "lightblue" : "lightgray"
+        // A button would have its press action twice: once of its role, once of the handler.
+        Accessible.role: Accessible.MenuItem
+        Accessible.focusable: true
+        Accessible.onPressAction: action.triggered()
+        Keys.onSpacePressed: action.triggered()
+    }
+
+    Column {
+        Action {
+            Accessible.name: "Say"
+            Accessible.description: "Speaks at once"
+            focus: true
+            onTriggered: UIToolKitUtils.sayAccessible(this, "Spoken at once")
+        }
+        Action {
+            Accessible.name: "Say later"
+            onTriggered: UIToolKitUtils.sayAccessible(this, "Spoken later", 200)
+        }
+        Action {
+            Accessible.name: "Say twice"
+            onTriggered: {
+                UIToolKitUtils.sayAccessible(this, "Again");
+                UIToolKitUtils.sayAccessible(this, "Again");
+            }
+        }
+        Action {
+            Accessible.name: "Say for a part"
+            onTriggered: UIToolKitUtils.sayAccessible(part, "Spoken for a part")
+
+            Item {
+                id: part
+            }
+        }
+        Action {
+            Accessible.name: "Say nothing"
+            onTriggered: UIToolKitUtils.sayAccessible(this, " ")
+        }
+    }
+}

@@ -149,8 +149,8 @@ void KPaletteReader::readSections(Layer &layer, const QJsonObject &object, const
             } else if (it.key() == QLatin1String("families")) {
                 for (auto family = section.begin(); family != section.end(); ++family) {
                     if (family->isObject())
-                        readStates(layer, family->toObject(), joined(entry, family.key()), themes,
-                                   &ThemeEntries::sets, family.key() + QLatin1Char('-'));
+                        readStates(layer, family->toObject(), joined(entry, family.key()), themes, &ThemeEntries::sets,
+                                   family.key() + QLatin1Char('-'));
                     else
                         warn(layer.file, joined(entry, family.key()),
                              QStringLiteral("expected an object, found %1").arg(kindOf(*family)));
@@ -343,8 +343,7 @@ std::optional<KPaletteColors> KPaletteReader::resolveStates(int theme, int layer
         } else if (states.base.isEmpty()) {
             if (state == Normal)
                 return {};
-            colors[state] = faded(colors[std::size_t(stateFallbacks[state])],
-                                  state == Disabled ? disabledOpacity : 1);
+            colors[state] = faded(colors[std::size_t(stateFallbacks[state])], state == Disabled ? disabledOpacity : 1);
         }
     }
     return colors;

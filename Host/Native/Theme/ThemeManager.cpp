@@ -61,8 +61,7 @@ void ThemeManager::setTheme(const QString &theme)
 {
     const int index = KPaletteReader::themeIndex(theme);
     if (index < 0) {
-        qWarning("Unknown theme \"%s\"; the theme stays \"%s\".", qUtf8Printable(theme),
-                 qUtf8Printable(this->theme()));
+        qWarning("Unknown theme \"%s\"; the theme stays \"%s\".", qUtf8Printable(theme), qUtf8Printable(this->theme()));
         return;
     }
     setFollowSystem(false);

@@ -11,6 +11,7 @@
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -64,7 +65,7 @@ double luminance(const QColor &color)
 
 double contrast(const QColor &a, const QColor &b)
 {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -236,7 +236,8 @@ void tst_App::textScale()
 
     app->setTextScale(1000);
     QCOMPARE(app->textScale(), 4.0);
-    for (const qreal bad : {0.0, -1.0, std::numeric_limits<qreal>::quiet_NaN(), std::numeric_limits<qreal>::infinity()}) {
+    for (const qreal bad :
+         {0.0, -1.0, std::numeric_limits<qreal>::quiet_NaN(), std::numeric_limits<qreal>::infinity()}) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^App: .* is no text scale$"_s));
         app->setTextScale(bad);
         QCOMPARE(app->textScale(), 4.0);

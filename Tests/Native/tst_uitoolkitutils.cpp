@@ -98,8 +98,8 @@ void tst_UIToolKitUtils::simulatedKeys()
     QVERIFY(utils->simulateKeyEvent(child, Qt::Key_B));
     QVERIFY(!utils->simulateKeyEvent(child, Qt::Key_C));
     const QStringList expected = {
-        u"child 65 33554432A"_s, u"parent 65"_s, u"released 65"_s, u"child 66 0"_s,
-        u"released 66"_s,        u"child 67 0"_s, u"parent 67"_s,  u"released 67"_s,
+        u"child 65 33554432A"_s, u"parent 65"_s,  u"released 65"_s, u"child 66 0"_s,
+        u"released 66"_s,        u"child 67 0"_s, u"parent 67"_s,   u"released 67"_s,
     };
     QCOMPARE(window->property("keys").toStringList(), expected);
 
@@ -218,8 +218,8 @@ void tst_UIToolKitUtils::openLink()
 
     QVERIFY(!utils->openLink(QString()));
     QVERIFY(!utils->openLink(u"  "_s));
-    for (const QString &link : {u"javascript:alert(1)"_s, u"file:///etc/passwd"_s, u"/etc/passwd"_s, u"data:text/html,x"_s,
-                                u"testscheme:x"_s, u"JavaScript:alert(1)"_s, u"qrc:/x"_s}) {
+    for (const QString &link : {u"javascript:alert(1)"_s, u"file:///etc/passwd"_s, u"/etc/passwd"_s,
+                                u"data:text/html,x"_s, u"testscheme:x"_s, u"JavaScript:alert(1)"_s, u"qrc:/x"_s}) {
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(u"^UIToolKitUtils: links of the scheme \".*\" are not opened$"_s));
         QVERIFY(!utils->openLink(link));

@@ -119,7 +119,7 @@ void tst_Utils::htmlAroundEmojis_data()
     QTest::newRow("between tags") << u"<p>a <b>😀</b>&amp;😀</p>"_s << 2;
     QTest::newRow("in an attribute") << u"<a title='😀 > x' href=\"😀\">y</a>"_s << 0;
     QTest::newRow("in a comment, a style and a script")
-            << u"<!-- 😀 > --><style>a::before{content:'😀'}</style><script>'😀'</SCRIPT>😀"_s << 1;
+        << u"<!-- 😀 > --><style>a::before{content:'😀'}</style><script>'😀'</SCRIPT>😀"_s << 1;
     QTest::newRow("less-than signs that begin no tag") << u"1 < 2 😀 <3 😀 <"_s << 2;
     QTest::newRow("tag that never ends") << u"😀 <b 😀 and so on"_s << 1;
     QTest::newRow("value that never ends") << u"😀 <a href=\"😀 > <b>😀</b>"_s << 1;
@@ -153,14 +153,14 @@ void tst_Utils::imagesFromTheTextEngine()
 void tst_Utils::foreignImagesStay()
 {
     for (const QString &html : {
-                 u"<img src=\"https://example.org/1f600\">"_s,
-                 u"<img alt=\"image://emoji/1f600\">"_s,
-                 u"<img src=\"image://emoji/\">"_s,
-                 u"<img src=\"image://emoji/61\">"_s,
-                 u"<img src=\"image://emoji/1f600-61\">"_s,
-                 u"<img src=\"image://emoji/d83d-de00\">"_s,
-                 u"<img src=\"image://emoji/ffffffff\">"_s,
-                 u"<b src=\"image://emoji/1f600\">"_s,
+             u"<img src=\"https://example.org/1f600\">"_s,
+             u"<img alt=\"image://emoji/1f600\">"_s,
+             u"<img src=\"image://emoji/\">"_s,
+             u"<img src=\"image://emoji/61\">"_s,
+             u"<img src=\"image://emoji/1f600-61\">"_s,
+             u"<img src=\"image://emoji/d83d-de00\">"_s,
+             u"<img src=\"image://emoji/ffffffff\">"_s,
+             u"<b src=\"image://emoji/1f600\">"_s,
          })
         QCOMPARE(Utils::instance()->replaceImagesByEWJEmojis(html), html);
     QCOMPARE(Utils::instance()->replaceImagesByEWJEmojis(u"<IMG width=1 SRC = 'image://emoji/1f600'/>"_s), u"😀"_s);
@@ -196,7 +196,8 @@ void tst_Utils::plainText_data()
     QTest::newRow("references") << u"<b>&lt;&AMP;&amp;&nbsp;&#65;&#x42;&#0;&#xD800;&hellip;&bogus;&</b>"_s
                                 << u"<&AMP;& AB\uFFFD\uFFFD…&bogus;&"_s;
     QTest::newRow("references are decoded once") << u"<b>&amp;lt;</b>"_s << u"&lt;"_s;
-    QTest::newRow("not shown") << u"<head><title>t</title><style>s</style></head><!-- c --><script>x</script>a"_s << u"a"_s;
+    QTest::newRow("not shown") << u"<head><title>t</title><style>s</style></head><!-- c --><script>x</script>a"_s
+                               << u"a"_s;
     QTest::newRow("pictures") << u"<b>a<img alt='b'/><img src='image://emoji/1f600'><img src='x'></b>"_s << u"ab😀"_s;
     QTest::newRow("quoted tag end") << u"<a href='>'>x</a>"_s << u"x"_s;
     QTest::newRow("unended tag is text") << u"<b>a</b> <c"_s << u"a <c"_s;
@@ -232,10 +233,33 @@ void tst_Utils::plainTextOfTheTextEngine()
 void tst_Utils::hostileText_data()
 {
     QTest::addColumn<QString>("pattern");
-    for (const char16_t *pattern :
-         {u"<", u"<a", u"<a href=\"", u"<a b='", u"<!--", u"<!", u"</", u"<style>", u"<style", u"<table><tr><td>", u"<div>",
-          u"&", u"&#", u"&bogus;", u"&amp;", u"<br>", u"<b>", u"😀", u"😀\u200d", u"🏴\U000E0067", u"🇩", u"1\uFE0F",
-          u"<img src='image://emoji/", u"<img src='image://emoji/1f600'>", u"<a title=x ", u"<pre>", u" \n"}) {
+    for (const char16_t *pattern : {u"<",
+                                    u"<a",
+                                    u"<a href=\"",
+                                    u"<a b='",
+                                    u"<!--",
+                                    u"<!",
+                                    u"</",
+                                    u"<style>",
+                                    u"<style",
+                                    u"<table><tr><td>",
+                                    u"<div>",
+                                    u"&",
+                                    u"&#",
+                                    u"&bogus;",
+                                    u"&amp;",
+                                    u"<br>",
+                                    u"<b>",
+                                    u"😀",
+                                    u"😀\u200d",
+                                    u"🏴\U000E0067",
+                                    u"🇩",
+                                    u"1\uFE0F",
+                                    u"<img src='image://emoji/",
+                                    u"<img src='image://emoji/1f600'>",
+                                    u"<a title=x ",
+                                    u"<pre>",
+                                    u" \n"}) {
         const QString text = QString::fromUtf16(pattern);
         QTest::newRow(qPrintable(u"many "_s + text.trimmed())) << text;
     }

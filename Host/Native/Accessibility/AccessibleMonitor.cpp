@@ -179,7 +179,7 @@ void AccessibleMonitor::start()
     m_started = true;
     AccessibleEventTap::add(this);
     m_announcements =
-            connect(Announcer::instance(), &Announcer::announced, this, &AccessibleMonitor::handleAnnouncement);
+        connect(Announcer::instance(), &Announcer::announced, this, &AccessibleMonitor::handleAnnouncement);
     QObject *focusObject = QGuiApplication::focusObject();
     setFocus(focusObject, infoOf(QAccessible::queryAccessibleInterface(focusObject)));
 }

@@ -101,17 +101,15 @@ void Announcer::sendAnnouncement(QObject *accessibleObject, const QString &text)
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(accessibleObject);
     if (!bus.isConnected() || !interface)
         return;
-    const QString path =
-            u"/org/a11y/atspi/accessible/"_s + QString::number(QAccessible::uniqueId(interface));
-    QDBusMessage signal =
-            QDBusMessage::createSignal(path, u"org.a11y.atspi.Event.Object"_s, u"Announcement"_s);
+    const QString path = u"/org/a11y/atspi/accessible/"_s + QString::number(QAccessible::uniqueId(interface));
+    QDBusMessage signal = QDBusMessage::createSignal(path, u"org.a11y.atspi.Event.Object"_s, u"Announcement"_s);
     signal << QString() << polite << 0 << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
     bus.send(signal);
 }
 
 #else
 
-void Announcer::sendAnnouncement(QObject *, const QString &) { }
+void Announcer::sendAnnouncement(QObject *, const QString &) {}
 
 #endif
 
@@ -125,36 +123,37 @@ void Announcer::showNotificationIfNeeded(QObject *object, const QString &text)
     if (!bus.isConnected())
         return;
     const QDBusMessage call =
-            QDBusMessage::createMethodCall(u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/registry"_s,
-                                           u"org.a11y.atspi.Registry"_s, u"GetRegisteredEvents"_s);
+        QDBusMessage::createMethodCall(u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/registry"_s,
+                                       u"org.a11y.atspi.Registry"_s, u"GetRegisteredEvents"_s);
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, target = QPointer<QObject>(object), hadTarget = object != nullptr, text](QDBusPendingCallWatcher *call) {
-                call->deleteLater();
-                if (call->isError() || call->reply().arguments().isEmpty() || (hadTarget && !target))
+    connect(
+        watcher, &QDBusPendingCallWatcher::finished, this,
+        [this, target = QPointer<QObject>(object), hadTarget = object != nullptr, text](QDBusPendingCallWatcher *call) {
+            call->deleteLater();
+            if (call->isError() || call->reply().arguments().isEmpty() || (hadTarget && !target))
+                return;
+            const auto events = call->reply().arguments().constFirst().value<QDBusArgument>();
+            bool anyReader = false;
+            events.beginArray();
+            while (!events.atEnd()) {
+                QString listener;
+                QString event;
+                events.beginStructure();
+                events >> listener >> event;
+                events.endStructure();
+                anyReader = true;
+                if (event.startsWith("object:announcement"_L1, Qt::CaseInsensitive))
                     return;
-                const auto events = call->reply().arguments().constFirst().value<QDBusArgument>();
-                bool anyReader = false;
-                events.beginArray();
-                while (!events.atEnd()) {
-                    QString listener;
-                    QString event;
-                    events.beginStructure();
-                    events >> listener >> event;
-                    events.endStructure();
-                    anyReader = true;
-                    if (event.startsWith("object:announcement"_L1, Qt::CaseInsensitive))
-                        return;
-                }
-                events.endArray();
-                if (anyReader)
-                    showNotification(target, text);
-            });
+            }
+            events.endArray();
+            if (anyReader)
+                showNotification(target, text);
+        });
 }
 
 #else
 
-void Announcer::showNotificationIfNeeded(QObject *, const QString &) { }
+void Announcer::showNotificationIfNeeded(QObject *, const QString &) {}
 
 #endif
 
@@ -167,8 +166,7 @@ void Announcer::showNotification(QObject *object, const QString &text)
     if (!window || !engine)
         return;
     QQmlComponent component(engine, QUrl(u"qrc:/korvu/accessibility/SpokenNotification.qml"_s));
-    auto *item = qobject_cast<QQuickItem *>(
-            component.createWithInitialProperties({{u"spokenText"_s, text}}));
+    auto *item = qobject_cast<QQuickItem *>(component.createWithInitialProperties({{u"spokenText"_s, text}}));
     if (!item)
         return;
     item->setParent(window->contentItem());

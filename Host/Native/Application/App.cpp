@@ -17,8 +17,8 @@ namespace {
 constexpr qreal smallestTextScale = 0.5;
 constexpr qreal largestTextScale = 4;
 
-constexpr int navigationKeys[] = {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down,
-                                  Qt::Key_Left, Qt::Key_Right,  Qt::Key_F6};
+constexpr int navigationKeys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down,
+                                  Qt::Key_Left, Qt::Key_Right,   Qt::Key_F6};
 // In a text these are part of editing it.
 constexpr int movementKeys[] = {Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
 

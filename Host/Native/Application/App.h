@@ -20,7 +20,7 @@ class KORVUUI_EXPORT App : public QObject
     Q_PROPERTY(bool isKeyboardFocus READ isKeyboardFocus WRITE setKeyboardFocus NOTIFY isKeyboardFocusChanged FINAL)
     //! True when things should appear in their final state at once. False until it is set.
     Q_PROPERTY(bool animationsDisabled READ animationsDisabled WRITE setAnimationsDisabled NOTIFY
-                       animationsDisabledChanged FINAL)
+                   animationsDisabledChanged FINAL)
     //! Factor on every font size, 1 at the start, kept within 0.5 and 4. Anything that is not a positive number is
     //! warned about and changes nothing.
     Q_PROPERTY(qreal textScale READ textScale WRITE setTextScale NOTIFY textScaleChanged FINAL)

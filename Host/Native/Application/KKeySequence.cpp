@@ -10,9 +10,9 @@ namespace {
 
 // In the order of KKeySequence::Type.
 constexpr QKeySequence::StandardKey standardKeys[] = {
-    QKeySequence::UnknownKey, QKeySequence::UnknownKey, QKeySequence::Undo,      QKeySequence::Redo,
-    QKeySequence::Cut,        QKeySequence::Copy,       QKeySequence::Paste,     QKeySequence::SelectAll,
-    QKeySequence::Bold,       QKeySequence::Italic,     QKeySequence::Underline, QKeySequence::Close,
+    QKeySequence::UnknownKey, QKeySequence::UnknownKey,   QKeySequence::Undo,      QKeySequence::Redo,
+    QKeySequence::Cut,        QKeySequence::Copy,         QKeySequence::Paste,     QKeySequence::SelectAll,
+    QKeySequence::Bold,       QKeySequence::Italic,       QKeySequence::Underline, QKeySequence::Close,
     QKeySequence::Find,       QKeySequence::HelpContents,
 };
 static_assert(std::size(standardKeys) == KKeySequence::Help + 1);

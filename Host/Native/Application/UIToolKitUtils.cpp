@@ -75,8 +75,7 @@ void UIToolKitUtils::sayAccessible(QObject *item, const QString &text, int delay
         Announcer::instance()->announce(item, text);
         return;
     }
-    QTimer::singleShot(delay, item ? item : this,
-                       [item, text] { Announcer::instance()->announce(item, text); });
+    QTimer::singleShot(delay, item ? item : this, [item, text] { Announcer::instance()->announce(item, text); });
 }
 
 bool UIToolKitUtils::simulateKeyEvent(QObject *receiver, int key, int modifiers, const QString &text)

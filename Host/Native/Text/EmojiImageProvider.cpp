@@ -1,5 +1,6 @@
 #include "EmojiImageProvider.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -32,6 +33,9 @@ QImage draw(const QString &emoji, int edge)
     image.fill(Qt::transparent);
     QFont font(KFont::emojiFamily());
     font.setPixelSize(edge);
+    // Merging takes parts of a sequence, as the digit of a keycap, from text fonts, and the rest no longer combines.
+    if (QFontDatabase::hasFamily(KFont::emojiFamily()) || !QFont::substitutes(KFont::emojiFamily()).isEmpty())
+        font.setStyleStrategy(QFont::NoFontMerging);
     // Emoji glyphs are wider than the font's size; sequences that the font lacks come as several glyphs.
     const QFontMetricsF metrics(font);
     const qreal extent = qMax(metrics.horizontalAdvance(emoji), metrics.height());

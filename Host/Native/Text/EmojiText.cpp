@@ -114,8 +114,7 @@ Presentation skipElement(Cursor &cursor)
     const char32_t base = cursor.peek();
     if (!contains(EmojiRanges::pictographic, base) || contains(regionalIndicators, base))
         return Presentation::None;
-    Presentation presentation =
-            contains(EmojiRanges::presentation, base) ? Presentation::Emoji : Presentation::Text;
+    Presentation presentation = contains(EmojiRanges::presentation, base) ? Presentation::Emoji : Presentation::Text;
     cursor.advance();
     if (cursor.peek() == textSelector)
         return Presentation::None;

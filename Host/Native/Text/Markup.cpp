@@ -61,7 +61,7 @@ constexpr qsizetype longestReference = 10;
 void appendCodePoint(QString &result, uint codePoint)
 {
     const bool isCharacter =
-            codePoint != 0 && codePoint <= QChar::LastValidCodePoint && !QChar::isSurrogate(char32_t(codePoint));
+        codePoint != 0 && codePoint <= QChar::LastValidCodePoint && !QChar::isSurrogate(char32_t(codePoint));
     result += QChar::fromUcs4(isCharacter ? char32_t(codePoint) : char32_t(QChar::ReplacementCharacter));
 }
 

@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1StringView blockElements[] = {
-    "address"_L1, "article"_L1, "aside"_L1,  "blockquote"_L1, "body"_L1,  "center"_L1,  "dd"_L1,    "div"_L1,  "dl"_L1,
-    "dt"_L1,      "footer"_L1,  "form"_L1,   "h1"_L1,         "h2"_L1,    "h3"_L1,      "h4"_L1,    "h5"_L1,   "h6"_L1,
-    "head"_L1,    "header"_L1,  "hr"_L1,     "html"_L1,       "li"_L1,    "ol"_L1,      "p"_L1,     "pre"_L1,  "section"_L1,
-    "table"_L1,   "tbody"_L1,   "tfoot"_L1,  "thead"_L1,      "tr"_L1,    "ul"_L1,
+    "address"_L1, "article"_L1, "aside"_L1, "blockquote"_L1, "body"_L1, "center"_L1, "dd"_L1, "div"_L1, "dl"_L1,
+    "dt"_L1,      "footer"_L1,  "form"_L1,  "h1"_L1,         "h2"_L1,   "h3"_L1,     "h4"_L1, "h5"_L1,  "h6"_L1,
+    "head"_L1,    "header"_L1,  "hr"_L1,    "html"_L1,       "li"_L1,   "ol"_L1,     "p"_L1,  "pre"_L1, "section"_L1,
+    "table"_L1,   "tbody"_L1,   "tfoot"_L1, "thead"_L1,      "tr"_L1,   "ul"_L1,
 };
 
 bool isBlock(const Markup::Piece &tag)

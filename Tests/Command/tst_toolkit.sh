@@ -256,6 +256,12 @@ test_the_debian_13_system_is_made_once_and_only_when_complete_bears_its_name() {
     local root=$area/home/.cache/uitoolkit/debian13
     mkdir -p "$root/half" "$root.unfinished/half"
 
+    run -- --debian13 build
+    expect_status 2
+    expect_output "was not made by this command"
+    [[ -d $root/half ]] || fail "what somebody else made is removed"
+
+    touch "$root/.uitoolkit-root-0"
     run DEBOOTSTRAP_STATUS=1 -- --debian13 build
     expect_status 1
     [[ ! -e $root ]] || fail "a half-made system bears the name of a whole one"
@@ -268,14 +274,14 @@ test_the_debian_13_system_is_made_once_and_only_when_complete_bears_its_name() {
 
     run -- --debian13 build
     expect_not_started debootstrap
-    expect_started "unshare .*--enter $root $tree /src/uitoolkit .*-- build$"
+    expect_started "unshare .*--enter $root $tree /uitoolkit .*-- build$"
 }
 
 test_folders_in_the_work_tree_have_another_name_inside_the_debian_13_system() {
     run -- --debian13 shots "$tree/pictures"
-    expect_started "unshare .*-- shots /src/uitoolkit/pictures$"
+    expect_started "unshare .*-- shots /uitoolkit/pictures$"
     run -- --debian13 install "--prefix=$tree/out"
-    expect_started "unshare .*-- install --prefix=/src/uitoolkit/out$"
+    expect_started "unshare .*-- install --prefix=/uitoolkit/out$"
     run -- --debian13 shots /tmp/pictures
     expect_started "unshare .*-- shots /tmp/pictures$"
 }

@@ -1,0 +1,71 @@
+/*! A line of text to type. To be replaced by the library's own text field when there is one. */
+import QtQuick
+import QtQuick.Templates as T
+import Korvu 1.0
+import UIToolkitQml 1.0
+import Gallery
+import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
+
+T.TextField {
+    id: control
+
+    //! What it is for, for assistive technology.
+    property string name
+    property string iconName
+    property string prompt
+
+    readonly property kColorSet textColorSet: ThemeManager.globalTheme, App.getColorSet("textinput-text", "global")
+    readonly property kColorSet selectionColorSet: ThemeManager.globalTheme, App.getColorSet("text-highlight", "global")
+    readonly property kColorSet selectedTextColorSet: ThemeManager.globalTheme, App.getColorSet("label-common-white-text", "global")
+    readonly property real startPadding: iconName.length > 0 ? Metrics.medium + Metrics.iconSize + Metrics.small : Metrics.medium
+
+    implicitWidth: 200
+    implicitHeight: Math.max(Metrics.controlHeight, contentHeight + 2 * Metrics.small)
+    leftPadding: priv.isMirrored ? Metrics.medium : startPadding
+    rightPadding: priv.isMirrored ? startPadding : Metrics.medium
+    verticalAlignment: TextInput.AlignVCenter
+    horizontalAlignment: TextInput.AlignLeft
+    font: FontConstants.bodySecondary
+    color: ThemeUtils.getColor(control, textColorSet)
+    selectionColor: selectionColorSet.normal
+    selectedTextColor: selectedTextColorSet.normal
+    selectByMouse: true
+    hoverEnabled: true
+
+    background: KFrame {
+        radius: Metrics.smallRadius
+        controlsTarget: control
+        backgroundColorSetName: "textinput-background"
+        borderColorSetName: "textinput-border"
+    }
+
+    GalleryText {
+        anchors.verticalCenter: parent.verticalCenter
+        x: control.leftPadding
+        width: control.width - control.leftPadding - control.rightPadding
+        visible: control.text.length === 0 && control.preeditText.length === 0
+        text: control.prompt
+        elide: Text.ElideRight
+        textColorSetName: "textinput-placeholder-text"
+        Accessible.ignored: true
+    }
+    KSvgIcon {
+        anchors.verticalCenter: parent.verticalCenter
+        x: priv.isMirrored ? parent.width - width - Metrics.medium : Metrics.medium
+        visible: control.iconName.length > 0
+        height: Metrics.iconSize
+        svgName: control.iconName
+        svgColorSetName: "globalHeader-textfield-searchIcon"
+    }
+    FocusRing {}
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
+    Accessible.description: prompt
+
+    QtObject {
+        id: priv
+
+        readonly property bool isMirrored: control.LayoutMirroring.enabled
+    }
+}

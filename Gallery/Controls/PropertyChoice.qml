@@ -1,0 +1,30 @@
+/*! A control for a property with a few values. */
+import QtQuick
+import Korvu 1.0
+import UIToolkitQml 1.0
+import Gallery
+
+Column {
+    id: control
+
+    property string label
+    property alias options: segments.texts
+    property alias currentIndex: segments.currentIndex
+    readonly property alias value: segments.currentText
+
+    width: parent?.width ?? 0
+    spacing: Metrics.tiny
+
+    GalleryText {
+        width: parent.width
+        text: control.label
+        wrapMode: Text.Wrap
+        Accessible.ignored: true
+    }
+    Segments {
+        id: segments
+
+        width: Math.min(parent.width, implicitWidth)
+        name: control.label
+    }
+}

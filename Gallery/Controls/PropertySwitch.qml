@@ -1,0 +1,15 @@
+/*! A control for a yes-or-no property. */
+import QtQuick
+import Korvu 1.0
+import UIToolkitQml 1.0
+import Gallery
+
+GallerySwitch {
+    id: control
+
+    property string label
+    property alias value: control.checked
+
+    width: parent?.width ?? 0
+    text: label
+}

@@ -1,0 +1,28 @@
+/*! A name and its value. */
+import QtQuick
+import Korvu 1.0
+import UIToolkitQml 1.0
+import Gallery
+
+Row {
+    id: control
+
+    property string title
+    property string value
+    property real titleWidth: 88
+
+    width: parent?.width ?? 0
+    spacing: Metrics.small
+
+    GalleryText {
+        width: control.titleWidth
+        text: control.title
+        wrapMode: Text.Wrap
+        textColorSetName: "text-secondary"
+    }
+    GalleryText {
+        width: control.width - control.titleWidth - control.spacing
+        text: control.value.length > 0 ? control.value : qsTr("–")
+        wrapMode: Text.Wrap
+    }
+}

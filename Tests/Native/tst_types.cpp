@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QQmlComponent>
@@ -23,6 +24,9 @@ const QString awaitedFile = QStringLiteral(UITOOLKIT_SOURCE_DIR "/Tests/Native/a
 
 // The classes that stand in for native data that is not written yet.
 const QByteArrayList placeholders = {"AwaitedData", "QQmlTypeNotAvailable"};
+
+// What a type cannot do without, beside its name.
+const QHash<QString, QString> necessities = {{u"KFocusItemCanvas"_s, u"focusItem: KBasicFocusItem {}"_s}};
 
 QStringList readLines(const QString &path)
 {
@@ -192,7 +196,8 @@ std::unique_ptr<QObject> tst_Types::create(const QString &module, const QString 
 {
     QQmlComponent component(&m_engine);
     const QString companion = module == modules.first() ? QString() : u"import %1 1.0\n"_s.arg(module);
-    component.setData(u"import UIToolkitQml 1.0\n%1%2 {}"_s.arg(companion, name).toUtf8(), QUrl());
+    const QString source = u"import UIToolkitQml 1.0\n%1%2 { %3 }"_s.arg(companion, name, necessities.value(name));
+    component.setData(source.toUtf8(), QUrl());
     std::unique_ptr<QObject> object(component.isReady() ? component.create() : nullptr);
     *error = component.errorString();
     return object;

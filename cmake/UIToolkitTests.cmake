@@ -9,7 +9,7 @@ function(uitoolkit_set_test_environment test)
     set_tests_properties(${test} PROPERTIES
         LABELS "${arg_LABELS}"
         TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QML_IMPORT_PATH=${UITOOLKIT_QML_DIR};LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}/Testing/runtime;QML_DISABLE_DISK_CACHE=1"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QML_IMPORT_PATH=${UITOOLKIT_QML_DIR};LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}/Testing/runtime"
     )
 endfunction()
 

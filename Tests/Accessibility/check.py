@@ -93,8 +93,10 @@ class Test:
             return  # its object is gone already
         if event.type == "object:announcement":
             record["text"] = event.any_data
-        elif not shows or record["role"] != "notification":
-            return  # of all that shows or hides, only notifications are speech
+        elif not shows:
+            return  # a state that ends
+        elif event.type == "object:state-changed:showing" and record["role"] != "notification":
+            return  # of all that shows, only notifications are speech
         self.events.append(record)
 
     def find(self, name):

@@ -32,3 +32,10 @@ add_library(uitoolkit_options INTERFACE)
 target_compile_options(uitoolkit_options INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${UITOOLKIT_WERROR}>:-Werror>)
 target_compile_definitions(uitoolkit_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+
+# Adds a program. Its QML modules are shared libraries found by import path, so it is not scanned for plugins to link.
+function(uitoolkit_add_executable target)
+    qt_add_executable(${target} ${ARGN})
+    set_target_properties(${target} PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN TRUE)
+    target_link_libraries(${target} PRIVATE uitoolkit_options)
+endfunction()

@@ -16,11 +16,11 @@ endfunction()
 # Adds a Qt Test program named after its one source file.
 function(uitoolkit_add_native_test source)
     get_filename_component(name "${source}" NAME_WE)
-    qt_add_executable(${name} ${source})
+    uitoolkit_add_executable(${name} ${source})
     target_compile_definitions(${name} PRIVATE
         UITOOLKIT_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
         UITOOLKIT_QML_DIR="${UITOOLKIT_QML_DIR}")
-    target_link_libraries(${name} PRIVATE uitoolkitdata korvuui Qt6::Test Qt6::QmlPrivate Qt6::QuickPrivate uitoolkit_options)
+    target_link_libraries(${name} PRIVATE uitoolkitdata korvuui Qt6::Test Qt6::QmlPrivate Qt6::QuickPrivate)
     add_dependencies(${name} uitoolkitqml korvu uielements)
     add_test(NAME ${name} COMMAND ${name})
     uitoolkit_set_test_environment(${name} LABELS native)

@@ -66,9 +66,10 @@ int run(const CommandLine &options)
     Session::instance()->setPage(options.page);
 
     GalleryEngine gallery;
-    if (!gallery.load())
+    const bool isInteractive = options.action == CommandLine::Action::Show;
+    if (!gallery.load(isInteractive))
         return EXIT_FAILURE;
-    return options.action == CommandLine::Action::Show ? QGuiApplication::exec() : takePictures(options, gallery);
+    return isInteractive ? QGuiApplication::exec() : takePictures(options, gallery);
 }
 
 } // namespace

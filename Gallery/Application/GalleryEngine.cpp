@@ -17,7 +17,7 @@ GalleryEngine::GalleryEngine()
     m_engine.addImportPath(u":/qt/qml"_s);
 }
 
-bool GalleryEngine::load()
+bool GalleryEngine::load(bool takesInput)
 {
     QQmlComponent component(&m_engine, QUrl(u"qrc:/qt/qml/Gallery/Shell/GalleryWindow.qml"_s));
     std::unique_ptr<QObject> object(component.create());
@@ -27,6 +27,7 @@ bool GalleryEngine::load()
         return false;
     }
     object.release();
+    m_window->setFlag(Qt::WindowTransparentForInput, !takesInput);
     m_window->show();
     return true;
 }

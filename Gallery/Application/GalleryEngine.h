@@ -11,8 +11,8 @@ class GalleryEngine
 public:
     GalleryEngine();
 
-    //! Shows the window. Returns false, with the errors logged, when it cannot be made.
-    bool load();
+    //! Shows the window, for pictures as one that no pointer gets at. Returns false, with the errors logged, when it cannot be made.
+    bool load(bool takesInput = true);
 
     QQmlEngine *engine() { return &m_engine; }
     //! Null before load().

@@ -34,6 +34,17 @@ bool isLoading(const QQuickItem *item)
     return std::any_of(children.cbegin(), children.cend(), isLoading);
 }
 
+// Animated pictures go on whatever is said about animations; a photograph shows their first frame.
+void stopFilms(QQuickItem *item)
+{
+    if (item->inherits("QQuickAnimatedImage")) {
+        item->setProperty("paused", true);
+        item->setProperty("currentFrame", 0);
+    }
+    const QList<QQuickItem *> children = item->childItems();
+    std::for_each(children.cbegin(), children.cend(), stopFilms);
+}
+
 void runEvents(int milliseconds)
 {
     const QDeadlineTimer deadline(milliseconds);
@@ -59,6 +70,7 @@ QImage Photographer::picture()
         runEvents(frameInterval);
         if (!m_window->isExposed() || isLoading(m_window->contentItem()))
             continue;
+        stopFilms(m_window->contentItem());
         QImage frame = m_window->grabWindow();
         if (frame == previous)
             return frame;

@@ -18,8 +18,6 @@ T.Slider {
     readonly property real maximumValue: to
 
     implicitHeight: Metrics.rowHeight
-    leftPadding: Metrics.tiny
-    rightPadding: Metrics.tiny
     snapMode: T.Slider.SnapAlways
     hoverEnabled: true
 
@@ -53,7 +51,7 @@ T.Slider {
         borderColorSetName: "slider-handle-border"
     }
 
-    FocusRing {}
+    FocusRing { innerFocusBorder: false }
 
     Accessible.role: Accessible.Slider
     Accessible.name: name

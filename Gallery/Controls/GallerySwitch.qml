@@ -10,15 +10,15 @@ T.Switch {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(Metrics.controlHeight, implicitContentHeight)
-    leftPadding: mirrored ? implicitIndicatorWidth + Metrics.small + Metrics.tiny : Metrics.tiny
-    rightPadding: mirrored ? Metrics.tiny : implicitIndicatorWidth + Metrics.small + Metrics.tiny
+    leftPadding: mirrored ? implicitIndicatorWidth + Metrics.medium : 0
+    rightPadding: mirrored ? 0 : implicitIndicatorWidth + Metrics.medium
     font: FontConstants.bodySecondary
     hoverEnabled: true
 
     indicator: KFrame {
         readonly property int inset: 3
 
-        x: control.mirrored ? Metrics.tiny : control.width - width - Metrics.tiny
+        x: control.mirrored ? 0 : control.width - width
         anchors.verticalCenter: parent?.verticalCenter
         implicitWidth: 36
         implicitHeight: 20
@@ -56,7 +56,7 @@ T.Switch {
     Keys.onReturnPressed: toggle()
     Keys.onEnterPressed: toggle()
 
-    FocusRing {}
+    FocusRing { innerFocusBorder: false }
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: text

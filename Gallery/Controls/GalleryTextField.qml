@@ -26,15 +26,22 @@ T.TextField {
     verticalAlignment: TextInput.AlignVCenter
     horizontalAlignment: TextInput.AlignLeft
     font: FontConstants.bodySecondary
-    color: ThemeUtils.getColor(control, textColorSet)
+    color: ThemeUtils.getTextFieldColor(control, textColorSet)
     selectionColor: selectionColorSet.normal
     selectedTextColor: selectedTextColorSet.normal
     selectByMouse: true
     hoverEnabled: true
 
+    // Long texts show their start until they are edited.
+    onActiveFocusChanged: {
+        if (!activeFocus)
+            ensureVisible(0);
+    }
+    Component.onCompleted: cursorPosition = 0
+
     background: KFrame {
         radius: Metrics.smallRadius
-        controlsTarget: control
+        controlsTarget: priv
         backgroundColorSetName: "textinput-background"
         borderColorSetName: "textinput-border"
     }
@@ -67,5 +74,10 @@ T.TextField {
         id: priv
 
         readonly property bool isMirrored: control.LayoutMirroring.enabled
+
+        // The state that the frame shows. "pressed" is a signal of text fields, so the field itself would look pressed.
+        readonly property bool enabled: control.enabled
+        readonly property bool hovered: control.hovered
+        readonly property bool activeFocus: control.activeFocus
     }
 }

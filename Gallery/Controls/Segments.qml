@@ -28,9 +28,10 @@ KFrame {
 
     function choose(index: int): void {
         const count = texts.length;
-        currentIndex = (index + count) % count;
-        (repeater.itemAt(currentIndex) as T.AbstractButton).forceActiveFocus(Qt.TabFocusReason);
-        activated(currentIndex);
+        const chosen = (index + count) % count;
+        (repeater.itemAt(chosen) as T.AbstractButton).forceActiveFocus(Qt.TabFocusReason);
+        currentIndex = chosen;
+        activated(chosen);
     }
 
     implicitWidth: priv.naturalWidth + 2 * priv.inset
@@ -72,7 +73,7 @@ KFrame {
                 checkable: true
                 autoExclusive: true
                 checked: index === control.currentIndex
-                focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
+                focusPolicy: checked || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
                 onClicked: control.choose(index)
 

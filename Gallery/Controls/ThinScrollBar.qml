@@ -20,7 +20,7 @@ T.ScrollBar {
         implicitHeight: implicitWidth
         radius: Math.min(width, height) / 2
         controlsTarget: control
-        backgroundColorSetName: "indentationBar-default"
+        backgroundColorSetName: control.hovered || control.pressed ? "indentationBar-default" : "slider-track-empty-background"
     }
 
     Accessible.ignored: true

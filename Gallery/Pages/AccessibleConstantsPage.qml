@@ -22,7 +22,7 @@ GalleryPage {
     Sheet {
         title: qsTr("Keys")
         text: qsTr("The value of each is its own name.")
-        minimumCellWidth: 200
+        minimumCellWidth: 300
 
         Repeater {
             model: page.keys
@@ -32,7 +32,7 @@ GalleryPage {
 
                 required property string modelData
 
-                label: "AccessibleConstants.%1".arg(modelData)
+                label: modelData
                 note: "{ [AccessibleConstants.%1]: \"%2\" }".arg(modelData).arg(text.value)
                 stageHeight: 64
 

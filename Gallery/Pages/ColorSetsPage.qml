@@ -17,7 +17,7 @@ GalleryPage {
     ]
 
     readonly property list<string> states: ["normal", "hovered", "pressed", "focused", "checked", "disabled"]
-    readonly property real swatchWidth: values.value ? 68 : 56
+    readonly property real swatchWidth: Math.round((values.value ? 68 : 56) * Math.max(1, App.textScale))
     readonly property var names: ThemeManager.colorSetNames()
     readonly property var shown: {
         const words = filter.value.toLowerCase().split(" ");

@@ -35,7 +35,7 @@ GalleryPage {
     }
     Sheet {
         title: qsTr("Outlines")
-        minimumCellWidth: 190
+        minimumCellWidth: 290
 
         Cell {
             label: "drawRoundedSidesOutline"

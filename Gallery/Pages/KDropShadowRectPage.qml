@@ -18,7 +18,7 @@ GalleryPage {
             width: 280
             height: 120
             radius: radius.value
-            backgroundColorSetName: "button-accent-fill-background"
+            backgroundColorSetName: "checkbox-checked-background"
 
             KDropShadowRect {
                 offsetFactor: offsetFactor.value
@@ -38,7 +38,7 @@ GalleryPage {
                 width: 120
                 height: 80
                 radius: 8
-                backgroundColorSetName: "button-accent-fill-background"
+                backgroundColorSetName: "checkbox-checked-background"
 
                 KDropShadowRect {}
             }
@@ -50,7 +50,7 @@ GalleryPage {
                 width: 120
                 height: 80
                 radius: 8
-                backgroundColorSetName: "button-accent-fill-background"
+                backgroundColorSetName: "checkbox-checked-background"
 
                 KDropShadowRect { offsetFactor: 0.1 }
             }
@@ -63,7 +63,7 @@ GalleryPage {
                 width: 120
                 height: 80
                 radius: 8
-                backgroundColorSetName: "button-accent-fill-background"
+                backgroundColorSetName: "checkbox-checked-background"
 
                 KDropShadowRect { offset: 12 }
             }

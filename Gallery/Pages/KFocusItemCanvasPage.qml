@@ -77,11 +77,9 @@ GalleryPage {
         width: 120
         height: 40
 
-        data: [settings]
-
         KRectangle {
             anchors.fill: parent
-            radius: sample.settings.isRectangle ? sample.settings.cornerRadius : height / 2
+            radius: sample.settings.isSemicircle ? height / 2 : sample.settings.cornerRadius
             backgroundColorSetName: "button-ghost-active-background"
         }
         KFocusItemCanvas {

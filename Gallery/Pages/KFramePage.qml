@@ -54,6 +54,7 @@ GalleryPage {
     }
     Sheet {
         title: qsTr("States")
+        minimumCellWidth: 100
 
         Repeater {
             model: ExampleStates.all
@@ -66,7 +67,7 @@ GalleryPage {
                 label: modelData.name
 
                 KFrame {
-                    width: 96
+                    width: 76
                     height: 40
                     radius: 6
                     controlsTarget: cell.modelData

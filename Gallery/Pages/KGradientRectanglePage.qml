@@ -11,8 +11,8 @@ GalleryPage {
     category: qsTr("Surfaces")
     description: qsTr("A rectangle with a gradient between two colour sets.")
     controls: [
-        PropertyColorSet { id: startName; label: "gradientStartColourSetName"; initial: "button-join-animated-gradient-background-normal-0" },
-        PropertyColorSet { id: endName; label: "gradientEndColourSetName"; initial: "button-accent-fill-background" },
+        PropertyColorSet { id: startName; label: "gradientStartColourSetName"; initial: "indentationBar-success" },
+        PropertyColorSet { id: endName; label: "gradientEndColourSetName"; initial: "checkbox-checked-background" },
         PropertyChoice { id: orientation; label: "gradientOrientation"; options: ["Vertical", "Horizontal"] },
         PropertySlider { id: radius; label: "radius"; to: 60; value: 12 }
     ]
@@ -45,8 +45,8 @@ GalleryPage {
                 width: 140
                 height: 64
                 radius: 8
-                gradientStartColourSetName: "button-accent-fill-background"
-                gradientEndColourSetName: "button-message-fill-background"
+                gradientStartColourSetName: "checkbox-checked-background"
+                gradientEndColourSetName: "indentationBar-success"
             }
         }
         Cell {
@@ -58,8 +58,8 @@ GalleryPage {
                 height: 64
                 radius: 8
                 gradientOrientation: Gradient.Horizontal
-                gradientStartColourSetName: "button-accent-fill-background"
-                gradientEndColourSetName: "button-message-fill-background"
+                gradientStartColourSetName: "checkbox-checked-background"
+                gradientEndColourSetName: "indentationBar-success"
             }
         }
         Cell {
@@ -70,13 +70,14 @@ GalleryPage {
                 height: 64
                 radius: 32
                 gradientOrientation: Gradient.Horizontal
-                gradientStartColourSetName: "button-join-animated-gradient-background-normal-0"
-                gradientEndColourSetName: "button-join-animated-gradient-background-normal-1"
+                gradientStartColourSetName: "indentationBar-success"
+                gradientEndColourSetName: "checkbox-checked-background"
             }
         }
     }
     Sheet {
         title: qsTr("States")
+        minimumCellWidth: 100
 
         Repeater {
             model: ExampleStates.all
@@ -89,13 +90,13 @@ GalleryPage {
                 label: modelData.name
 
                 KGradientRectangle {
-                    width: 96
+                    width: 76
                     height: 40
                     radius: 20
                     controlsTarget: cell.modelData
                     gradientOrientation: Gradient.Horizontal
-                    gradientStartColourSetName: "button-join-animated-gradient-background-normal-0"
-                    gradientEndColourSetName: "button-join-animated-gradient-background-normal-1"
+                    gradientStartColourSetName: "indentationBar-success"
+                    gradientEndColourSetName: "checkbox-checked-background"
                 }
             }
         }

@@ -11,8 +11,8 @@ GalleryPage {
     controls: [
         PropertySlider { id: cornerRadius; label: "cornerRadius"; to: 100; value: 32 },
         PropertyColorSet { id: behindName; label: "gradientPrimary0BackgroundColorSetName"; initial: "button-primary-background" },
-        PropertyColorSet { id: startName; label: "gradientStartColourSetName"; initial: "button-accent-fill-background" },
-        PropertyColorSet { id: endName; label: "gradientEndColourSetName"; initial: "button-message-fill-background" }
+        PropertyColorSet { id: startName; label: "gradientStartColourSetName"; initial: "checkbox-checked-background" },
+        PropertyColorSet { id: endName; label: "gradientEndColourSetName"; initial: "indentationBar-success" }
     ]
 
     Playground {
@@ -45,8 +45,8 @@ GalleryPage {
                 height: 80
                 cornerRadius: 0
                 gradientPrimary0BackgroundColorSetName: "button-primary-background"
-                gradientStartColourSetName: "button-accent-fill-background"
-                gradientEndColourSetName: "button-message-fill-background"
+                gradientStartColourSetName: "checkbox-checked-background"
+                gradientEndColourSetName: "indentationBar-success"
             }
         }
         Cell {
@@ -57,8 +57,8 @@ GalleryPage {
                 height: 80
                 cornerRadius: 40
                 gradientPrimary0BackgroundColorSetName: "button-primary-background"
-                gradientStartColourSetName: "button-accent-fill-background"
-                gradientEndColourSetName: "button-message-fill-background"
+                gradientStartColourSetName: "checkbox-checked-background"
+                gradientEndColourSetName: "indentationBar-success"
             }
         }
     }

@@ -61,7 +61,7 @@ GalleryPage {
             label: "hasSpinner: true"
             note: qsTr("no source yet: the spinner waits with you")
 
-            KImage { width: 88; height: 88; hasSpinner: !App.animationsDisabled }
+            KImage { width: 88; height: 88; hasSpinner: true }
         }
         Cell {
             label: qsTr("disabled")

@@ -47,7 +47,7 @@ GalleryPage {
                 width: 64
                 height: 32
 
-                KRectangle { anchors.fill: parent; radius: 6; backgroundColorSetName: "button-accent-fill-background" }
+                KRectangle { anchors.fill: parent; radius: 6; backgroundColorSetName: "checkbox-checked-background" }
             }
         }
         Cell {
@@ -59,7 +59,7 @@ GalleryPage {
                 height: 32
                 enabled: false
 
-                KRectangle { anchors.fill: parent; radius: 6; backgroundColorSetName: "button-accent-fill-background" }
+                KRectangle { anchors.fill: parent; radius: 6; backgroundColorSetName: "checkbox-checked-background" }
             }
         }
     }

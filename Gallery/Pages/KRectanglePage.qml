@@ -11,7 +11,7 @@ GalleryPage {
     category: qsTr("Surfaces")
     description: qsTr("A rectangle painted from a colour set, in the colour that fits the state of its target.")
     controls: [
-        PropertyColorSet { id: backgroundName; label: "backgroundColorSetName"; initial: "button-accent-fill-background" },
+        PropertyColorSet { id: backgroundName; label: "backgroundColorSetName"; initial: "checkbox-checked-background" },
         PropertySlider { id: radius; label: "radius"; to: 60; value: 12 },
         PropertySwitch { id: enabledSwitch; label: "enabled"; value: true },
         PropertySwitch { id: darkSwitch; label: qsTr("themeType: \"dark\"") }
@@ -31,6 +31,7 @@ GalleryPage {
     Sheet {
         title: qsTr("States")
         text: qsTr("The state is that of controlsTarget, by default the rectangle itself.")
+        minimumCellWidth: 100
 
         Repeater {
             model: ExampleStates.all
@@ -43,11 +44,11 @@ GalleryPage {
                 label: modelData.name
 
                 KRectangle {
-                    width: 96
+                    width: 76
                     height: 48
                     radius: 8
                     controlsTarget: cell.modelData
-                    backgroundColorSetName: "button-accent-fill-background"
+                    backgroundColorSetName: "checkbox-checked-background"
                 }
             }
         }
@@ -57,7 +58,7 @@ GalleryPage {
 
         Repeater {
             model: [
-                "background-primary", "button-primary-background", "button-accent-fill-background",
+                "background-primary", "button-primary-background", "checkbox-checked-background",
                 "button-cancel-fill-background", "button-join-fill-background", "button-message-fill-background",
                 "banner-style-announcement-background", "transparent"
             ]
@@ -99,7 +100,7 @@ GalleryPage {
                     height: 48
                     radius: 8
                     themeType: themeCell.modelData
-                    backgroundColorSetName: "button-accent-fill-background"
+                    backgroundColorSetName: "checkbox-checked-background"
                 }
             }
         }

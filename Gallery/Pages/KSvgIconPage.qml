@@ -47,6 +47,7 @@ GalleryPage {
     }
     Sheet {
         title: qsTr("States")
+        minimumCellWidth: 100
 
         Repeater {
             model: ExampleStates.all

@@ -68,6 +68,7 @@ GalleryPage {
     Sheet {
         title: qsTr("States")
         text: qsTr("Of a link's colour set; the text follows the state of controlsTarget.")
+        minimumCellWidth: 100
 
         Repeater {
             model: ExampleStates.all
@@ -80,7 +81,7 @@ GalleryPage {
                 label: modelData.name
 
                 KText {
-                    text: qsTr("Hello, world")
+                    text: qsTr("Hello")
                     font: FontConstants.hyperlinkSecondary
                     controlsTarget: stateCell.modelData
                     textColorSetName: "hyperlink-accent-text"

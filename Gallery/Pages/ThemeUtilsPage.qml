@@ -49,6 +49,7 @@ GalleryPage {
         Cell {
             label: "getTextFieldColor"
             note: qsTr("never pressed, and at rest while read-only")
+            stageHeight: 128
 
             ColorSample {
                 shade: ThemeUtils.getTextFieldColor(record, page.colorSet)
@@ -59,7 +60,7 @@ GalleryPage {
     Sheet {
         title: qsTr("What wins")
         text: qsTr("From the left: a disabled item is disabled whatever else it is; a focus colour counts only where it differs from the resting one.")
-        minimumCellWidth: 112
+        minimumCellWidth: 100
 
         Repeater {
             model: [

@@ -14,13 +14,13 @@ Row {
     width: parent?.width ?? 0
     spacing: Metrics.small
 
-    GalleryText {
+    SilentText {
         width: control.titleWidth
         text: control.title
         wrapMode: Text.Wrap
         textColorSetName: "text-secondary"
     }
-    GalleryText {
+    SilentText {
         width: control.width - control.titleWidth - control.spacing
         text: control.value.length > 0 ? control.value : qsTr("–")
         wrapMode: Text.Wrap

@@ -13,18 +13,16 @@ Row {
     width: ListView.view?.width ?? 0
     spacing: Metrics.small
 
-    GalleryText {
+    SilentText {
         id: headText
 
         text: control.head
         font: FontConstants.highlightCompact
         textColorSetName: "text-secondary"
-        Accessible.ignored: true
     }
-    GalleryText {
+    SilentText {
         width: control.width - headText.width - control.spacing
         text: control.body
-        accessibleText: qsTr("%1 %2").arg(control.head).arg(control.body)
         font: FontConstants.tagLabelTertiary
         wrapMode: Text.Wrap
     }

@@ -91,6 +91,7 @@ KRectangle {
             topMargin: Metrics.small
         }
         clip: true
+        activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         model: pages
         bottomMargin: Metrics.large
@@ -122,8 +123,8 @@ KRectangle {
             text: name
             checked: isShown
             hoverEnabled: true
-            // One stop of the Tab key for the whole list; arrows go on from there.
-            focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
+            // The list is one stop of the Tab key; arrows go on from there.
+            focusPolicy: Qt.ClickFocus
 
             background: KRectangle {
                 radius: Metrics.smallRadius

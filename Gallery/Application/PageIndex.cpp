@@ -15,8 +15,8 @@ namespace {
 // Reads a property of the page's root from the source, for opening thirty pages only to list them would take long.
 QString declaredText(const QString &source, const QString &property, const QString &context)
 {
-    const QRegularExpression declaration(
-        uR"re(^    %1: qsTr\("((?:[^"\\]|\\.)*)"\)$)re"_s.arg(property), QRegularExpression::MultilineOption);
+    const QRegularExpression declaration(uR"re(^    %1: qsTr\("((?:[^"\\]|\\.)*)"\)$)re"_s.arg(property),
+                                         QRegularExpression::MultilineOption);
     const QString text = declaration.match(source).captured(1).replace("\\\""_L1, "\""_L1);
     return QCoreApplication::translate(context.toUtf8().constData(), text.toUtf8().constData());
 }
@@ -58,8 +58,8 @@ const QList<PageInfo> &PageIndex::pages()
 
 const PageInfo *PageIndex::find(const QString &name)
 {
-    const auto found = std::find_if(pages().cbegin(), pages().cend(),
-                                    [&name](const PageInfo &page) { return page.name == name; });
+    const auto found =
+        std::find_if(pages().cbegin(), pages().cend(), [&name](const PageInfo &page) { return page.name == name; });
     return found == pages().cend() ? nullptr : &*found;
 }
 

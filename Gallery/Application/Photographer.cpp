@@ -22,9 +22,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int longestWait = 8000;    // milliseconds until a window that never rests is taken as it is
-constexpr int frameInterval = 30;    // milliseconds between frames that are compared
-constexpr int statusLoading = 2;     // Image.Loading
+constexpr int longestWait = 8000; // milliseconds until a window that never rests is taken as it is
+constexpr int frameInterval = 30; // milliseconds between frames that are compared
+constexpr int statusLoading = 2;  // Image.Loading
 
 bool isLoading(const QQuickItem *item)
 {
@@ -114,8 +114,8 @@ QStringList Photographer::saveAll(const QString &directory, QString *error)
                 const QImage image = picture();
                 if (!save(image, target.filePath(u"%1-%2%3.png"_s.arg(page.name, theme, direction)), error))
                     return sheets;
-                thumbnails.append({page.name + direction,
-                                   image.scaledToWidth(thumbnailWidth, Qt::SmoothTransformation)});
+                thumbnails.append(
+                    {page.name + direction, image.scaledToWidth(thumbnailWidth, Qt::SmoothTransformation)});
             }
         }
         const QString sheet = target.absoluteFilePath(u"contact-%1.png"_s.arg(theme));

@@ -1,6 +1,4 @@
 /*! The ground of everything on a page. */
-import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

@@ -1,6 +1,5 @@
 /*! One example in a sheet: the example in the middle of its stage, and below what it shows. */
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

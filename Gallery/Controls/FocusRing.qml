@@ -3,7 +3,6 @@
     clips with the list or page that they are in.
 */
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

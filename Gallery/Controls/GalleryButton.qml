@@ -3,7 +3,6 @@
 */
 import QtQuick
 import QtQuick.Templates as T
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

@@ -15,8 +15,6 @@
     \endqml
 */
 import QtQuick
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Column {

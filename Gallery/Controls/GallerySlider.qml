@@ -1,7 +1,6 @@
 /*! A slider. To be replaced by the library's own slider when there is one. */
 import QtQuick
 import QtQuick.Templates as T
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

@@ -1,6 +1,5 @@
 /*! A text of the gallery itself: KText without the padding, aligned to where lines start in the layout. */
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 
 KText {

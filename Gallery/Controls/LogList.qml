@@ -3,8 +3,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 ListView {
@@ -16,7 +14,7 @@ ListView {
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     spacing: Metrics.tiny
-    activeFocusOnTab: count > 0
+    activeFocusOnTab: count > 0 || activeFocus
     keyNavigationEnabled: false
 
     T.ScrollBar.vertical: ThinScrollBar {}

@@ -2,7 +2,6 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
-import "qrc:/qt/qml/UIToolkitQml/DrawUtils.js" as DrawUtils
 
 Item {
     id: control

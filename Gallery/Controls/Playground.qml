@@ -1,7 +1,5 @@
 /*! A large stage for the one example that the page's controls change. */
 import QtQuick
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Card {

@@ -1,7 +1,5 @@
 /*! A control for a property with a few values. */
 import QtQuick
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Column {

@@ -1,7 +1,6 @@
 /*! A control for a colour set's name. It passes on only names that exist, so not every letter typed. */
 import QtQuick
 import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 PropertyText {

@@ -1,7 +1,5 @@
 /*! A control for a text, a colour set's or an icon's name. */
 import QtQuick
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Column {

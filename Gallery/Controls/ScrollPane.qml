@@ -5,8 +5,6 @@
 import QtQuick
 import QtQuick.Templates as T
 import QtQuick.Window
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Flickable {
@@ -23,7 +21,7 @@ Flickable {
     contentWidth: width
     clip: true
     boundsBehavior: Flickable.StopAtBounds
-    activeFocusOnTab: contentHeight > height
+    activeFocusOnTab: contentHeight > height || activeFocus
 
     T.ScrollBar.vertical: ThinScrollBar {}
 

@@ -1,7 +1,5 @@
 /*! Lays cells of one size out in as many columns as there is room for. */
 import QtQuick
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Grid {

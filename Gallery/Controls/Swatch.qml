@@ -1,6 +1,5 @@
 /*! A colour on a checkerboard, so that what shines through is seen. */
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

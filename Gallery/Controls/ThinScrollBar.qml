@@ -1,9 +1,7 @@
 /*! A scroll bar that takes no room. To be replaced by the library's own when there is one. */
 import QtQuick
 import QtQuick.Templates as T
-import Korvu 1.0
 import UIToolkitQml 1.0
-import Gallery
 
 T.ScrollBar {
     id: control

@@ -1,10 +1,8 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
-import "qrc:/qt/qml/UIToolkitQml/DrawUtils.js" as DrawUtils
 
 GalleryPage {
     id: page

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

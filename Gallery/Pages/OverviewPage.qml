@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

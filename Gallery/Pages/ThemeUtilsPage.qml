@@ -4,7 +4,6 @@ import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
-import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
 GalleryPage {
     id: page

@@ -1,7 +1,5 @@
 /*! A name and its value. */
 import QtQuick
-import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Row {

@@ -2,7 +2,6 @@
 import QtQuick
 import QtQuick.Window
 import Korvu 1.0
-import UIToolkitQml 1.0
 import Gallery
 
 Window {

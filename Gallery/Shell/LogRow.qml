@@ -1,6 +1,5 @@
 /*! One entry of a log. */
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 

@@ -1,7 +1,6 @@
 /*! The list of all pages with its search. */
 import QtQuick
 import QtQuick.Templates as T
-import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 
@@ -88,6 +87,8 @@ KRectangle {
             right: parent.right
             top: search.bottom
             bottom: parent.bottom
+            leftMargin: Metrics.small
+            rightMargin: Metrics.small
             topMargin: Metrics.small
         }
         clip: true
@@ -100,7 +101,7 @@ KRectangle {
             required property string section
 
             width: ListView.view?.width ?? 0
-            leftPadding: Metrics.large + Metrics.small
+            leftPadding: Metrics.large
             rightPadding: leftPadding
             topPadding: Metrics.large
             bottomPadding: Metrics.tiny
@@ -117,8 +118,7 @@ KRectangle {
             required property string description
             readonly property bool isShown: name === Session.page
 
-            x: Metrics.small
-            width: (ListView.view?.width ?? 0) - 2 * x
+            width: ListView.view?.width ?? 0
             height: Math.max(Metrics.rowHeight, label.implicitHeight + Metrics.small)
             text: name
             checked: isShown
@@ -162,7 +162,14 @@ KRectangle {
             Accessible.onPressAction: click()
         }
 
-        T.ScrollBar.vertical: ThinScrollBar {}
+        T.ScrollBar.vertical: ThinScrollBar {
+            parent: control
+            anchors {
+                right: parent.right
+                top: list.top
+                bottom: list.bottom
+            }
+        }
 
         function showCurrentPage(): void {
             currentIndex = Math.max(0, pages.indexOf(Session.page));

@@ -5,7 +5,6 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
-import Gallery
 
 Text {
     property string textColorSetName: "text-primary"

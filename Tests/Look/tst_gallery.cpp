@@ -394,8 +394,8 @@ void tst_Gallery::commandLineIsUnderstood_data()
     QTest::addColumn<QStringList>("mentions");
 
     QTest::newRow("nothing") << QStringList{} << 0 << QStringList{};
-    QTest::newRow("all at once") << QStringList{u"--page"_s, u"KText"_s, u"--theme"_s, u"dark"_s, u"--rtl"_s,
-                                                u"--text-scale"_s, u"1.5"_s, u"--shot"_s, u"a.png"_s}
+    QTest::newRow("all at once") << QStringList{u"--page"_s,       u"KText"_s, u"--theme"_s, u"dark"_s, u"--rtl"_s,
+                                                u"--text-scale"_s, u"1.5"_s,   u"--shot"_s,  u"a.png"_s}
                                  << 0 << QStringList{};
     QTest::newRow("unknown page") << QStringList{u"--page"_s, u"Nope"_s} << 2 << QStringList{u"\"Nope\""_s, u"KText"_s};
     QTest::newRow("page in the wrong case") << QStringList{u"--page"_s, u"ktext"_s} << 2 << QStringList{u"\"ktext\""_s};

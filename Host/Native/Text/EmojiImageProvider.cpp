@@ -50,8 +50,9 @@ QImage draw(const QString &emoji, int edge)
 
 } // namespace
 
+// Always in the background: pictures in rich text that are there at once make Qt 6.8 warn of a load that ended too soon.
 EmojiImageProvider::EmojiImageProvider()
-    : QQuickImageProvider(QQmlImageProviderBase::Image)
+    : QQuickImageProvider(QQmlImageProviderBase::Image, QQmlImageProviderBase::ForceAsynchronousImageLoading)
     , m_cache(cacheKilobytes)
 {
 }

@@ -10,6 +10,5 @@ AwaitedData *AwaitedData::qmlAttachedProperties(QObject *attachee)
 
 void AwaitedData::registerCreatable(const char *uri, const char *name)
 {
-    qmlRegisterTypeNotAvailable(uri, 1, 0, name,
-                                QLatin1StringView(name) + QStringLiteral(" is not available yet."));
+    qmlRegisterTypeNotAvailable(uri, 1, 0, name, QLatin1StringView(name) + QStringLiteral(" is not available yet."));
 }

@@ -33,8 +33,7 @@ constexpr const char *dataUri = "UIToolkitQml_Private_Data";
 template<typename T>
 void registerAttached(const char *name)
 {
-    qmlRegisterUncreatableType<T>(dataUri, 1, 0, name,
-                                  QLatin1StringView(name) + QStringLiteral(" attached property."));
+    qmlRegisterUncreatableType<T>(dataUri, 1, 0, name, QLatin1StringView(name) + QStringLiteral(" attached property."));
 }
 
 void registerEnum(const QMetaObject &metaObject, const char *uri, const char *name)
@@ -88,13 +87,12 @@ void DataRegistration::registerAll(const char *uri)
 
     registerMetaTypes<
         UTButtonStyle::Style, UTButtonSize::Size, UTButtonType::Type, UTChipStyle::Style,
-        UTCallControlButtonEnum::ButtonType, UTCallControlButtonEnum::ButtonStyle,
-        UTCallControlButtonEnum::ButtonSize, UTCallControlButtonEnum::ButtonState,
-        UTTextButtonEnum::TextButtonColorStyle, UTTextButtonEnum::TextButtonSizeStyle,
-        UTAlertBannerEnum::BannerType, UTAlertBannerEnum::BannerIconPositionType, UTAlertBannerEnum::BannerFontType,
-        UTIndicatorBadgeEnum::IndicatorBadgeType, UTIndentationBarEnum::Type, UTListAvatarSearchItem::Action,
-        UTListAvatarSearchItem::Style, UTListAvatarSearchItem::SourceModule, UTPopOverEnum::Size,
-        UTPopOverEnum::ArrowAnchor, UTPopOverEnum::ArrowAlignment, UTTooltipEnum::TooltipStyle,
+        UTCallControlButtonEnum::ButtonType, UTCallControlButtonEnum::ButtonStyle, UTCallControlButtonEnum::ButtonSize,
+        UTCallControlButtonEnum::ButtonState, UTTextButtonEnum::TextButtonColorStyle,
+        UTTextButtonEnum::TextButtonSizeStyle, UTAlertBannerEnum::BannerType, UTAlertBannerEnum::BannerIconPositionType,
+        UTAlertBannerEnum::BannerFontType, UTIndicatorBadgeEnum::IndicatorBadgeType, UTIndentationBarEnum::Type,
+        UTListAvatarSearchItem::Action, UTListAvatarSearchItem::Style, UTListAvatarSearchItem::SourceModule,
+        UTPopOverEnum::Size, UTPopOverEnum::ArrowAnchor, UTPopOverEnum::ArrowAlignment, UTTooltipEnum::TooltipStyle,
         UTTooltipEnum::ArrowAnchor, UTTooltipEnum::ArrowAlignment, UTPopupEnum::Alignment, UTMenuEnum::Style,
         UTMenuEnum::Size, UTDiscoverabilityEnum::DiscoverabilityLabelType, UTWatermarkEnum::WatermarkSize,
         UTDynamicResource::Type>();

@@ -6,9 +6,7 @@
 namespace UTButtonSize {
 Q_NAMESPACE
 
-enum Size : int {
-    None, XL, L, M, S, XS, XXS, XXXS
-};
+enum Size : int { None, XL, L, M, S, XS, XXS, XXXS };
 Q_ENUM_NS(Size)
 
 } // namespace UTButtonSize

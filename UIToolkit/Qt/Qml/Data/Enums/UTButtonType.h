@@ -7,8 +7,20 @@ namespace UTButtonType {
 Q_NAMESPACE
 
 enum Type : int {
-    None, Settings, Favorite, Info, Attachment, Emoji, Link, Pen, Warning, Popout, Popin, Dismiss,
-    Copy, OutgoingCall
+    None,
+    Settings,
+    Favorite,
+    Info,
+    Attachment,
+    Emoji,
+    Link,
+    Pen,
+    Warning,
+    Popout,
+    Popin,
+    Dismiss,
+    Copy,
+    OutgoingCall
 };
 Q_ENUM_NS(Type)
 

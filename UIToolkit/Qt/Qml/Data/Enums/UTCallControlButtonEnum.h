@@ -9,24 +9,16 @@
 namespace UTCallControlButtonEnum {
 Q_NAMESPACE
 
-enum ButtonType : int {
-    ClosedCaptions, DualArrow, DualIcon, Panel, Round, KorvuAssistant, KorvuAssistantLarge
-};
+enum ButtonType : int { ClosedCaptions, DualArrow, DualIcon, Panel, Round, KorvuAssistant, KorvuAssistantLarge };
 Q_ENUM_NS(ButtonType)
 
-enum ButtonStyle : int {
-    Secondary, CommonSecondary, Ghost, Cancel, Join
-};
+enum ButtonStyle : int { Secondary, CommonSecondary, Ghost, Cancel, Join };
 Q_ENUM_NS(ButtonStyle)
 
-enum ButtonSize : int {
-    Medium, Small, ExtremeSmall
-};
+enum ButtonSize : int { Medium, Small, ExtremeSmall };
 Q_ENUM_NS(ButtonSize)
 
-enum ButtonState : int {
-    Inactive, Active
-};
+enum ButtonState : int { Inactive, Active };
 Q_ENUM_NS(ButtonState)
 
 } // namespace UTCallControlButtonEnum

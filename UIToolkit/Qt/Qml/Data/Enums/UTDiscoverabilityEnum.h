@@ -7,7 +7,14 @@ namespace UTDiscoverabilityEnum {
 Q_NAMESPACE
 
 enum DiscoverabilityLabelType : int {
-    IconWithTextTag, IconTag, TextTag, IconWithBorder, IconBadge, NewFeature, TipHelp, TipShortcut,
+    IconWithTextTag,
+    IconTag,
+    TextTag,
+    IconWithBorder,
+    IconBadge,
+    NewFeature,
+    TipHelp,
+    TipShortcut,
     BetaTextTag
 };
 Q_ENUM_NS(DiscoverabilityLabelType)

@@ -9,9 +9,7 @@
 namespace UTDynamicResource {
 Q_NAMESPACE
 
-enum Type : int {
-    None, Image, Gif
-};
+enum Type : int { None, Image, Gif };
 Q_ENUM_NS(Type)
 
 } // namespace UTDynamicResource

@@ -6,9 +6,7 @@
 namespace UTIndentationBarEnum {
 Q_NAMESPACE
 
-enum class Type : int {
-    None, Default, Info, Success, Warning, Danger
-};
+enum class Type : int { None, Default, Info, Success, Warning, Danger };
 Q_ENUM_NS(Type)
 
 } // namespace UTIndentationBarEnum

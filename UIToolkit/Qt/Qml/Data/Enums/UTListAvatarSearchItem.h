@@ -7,19 +7,34 @@ namespace UTListAvatarSearchItem {
 Q_NAMESPACE
 
 enum Action : int {
-    None, AvatarAction, ChatAction, SmsAction, CallAction, VideoAction, TransferNowAction,
-    ConsultFirstAction, MeetAction, DeviceVideoAction, AddContactAction, MoreOptionsAction
+    None,
+    AvatarAction,
+    ChatAction,
+    SmsAction,
+    CallAction,
+    VideoAction,
+    TransferNowAction,
+    ConsultFirstAction,
+    MeetAction,
+    DeviceVideoAction,
+    AddContactAction,
+    MoreOptionsAction
 };
 Q_ENUM_NS(Action)
 
-enum Style : int {
-    People, Meeting, Call, Space, Device, Contact
-};
+enum Style : int { People, Meeting, Call, Space, Device, Contact };
 Q_ENUM_NS(Style)
 
 enum SourceModule : int {
-    Default, Calling, CallingTransfer, CallingConference, MessageMention, Keyboardshortcuts,
-    MeetingScheduler, AIAssistantMention, AddContact
+    Default,
+    Calling,
+    CallingTransfer,
+    CallingConference,
+    MessageMention,
+    Keyboardshortcuts,
+    MeetingScheduler,
+    AIAssistantMention,
+    AddContact
 };
 Q_ENUM_NS(SourceModule)
 

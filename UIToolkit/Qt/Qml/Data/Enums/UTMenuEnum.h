@@ -6,14 +6,10 @@
 namespace UTMenuEnum {
 Q_NAMESPACE
 
-enum Style : int {
-    Normal, Circular
-};
+enum Style : int { Normal, Circular };
 Q_ENUM_NS(Style)
 
-enum Size : int {
-    Small, Medium, Large
-};
+enum Size : int { Small, Medium, Large };
 Q_ENUM_NS(Size)
 
 } // namespace UTMenuEnum

@@ -6,19 +6,13 @@
 namespace UTPopOverEnum {
 Q_NAMESPACE
 
-enum Size : int {
-    Small, Medium
-};
+enum Size : int { Small, Medium };
 Q_ENUM_NS(Size)
 
-enum ArrowAnchor : int {
-    None, Top, Bottom, Left, Right
-};
+enum ArrowAnchor : int { None, Top, Bottom, Left, Right };
 Q_ENUM_NS(ArrowAnchor)
 
-enum ArrowAlignment : int {
-    LeftAlignment, CenterAlignment, RightAlignment, TopAlignment, BottomAlignment
-};
+enum ArrowAlignment : int { LeftAlignment, CenterAlignment, RightAlignment, TopAlignment, BottomAlignment };
 Q_ENUM_NS(ArrowAlignment)
 
 } // namespace UTPopOverEnum

@@ -9,9 +9,7 @@
 namespace UTPopupEnum {
 Q_NAMESPACE
 
-enum Alignment : int {
-    None, Top, Left, Right, Bottom
-};
+enum Alignment : int { None, Top, Left, Right, Bottom };
 Q_ENUM_NS(Alignment)
 
 } // namespace UTPopupEnum

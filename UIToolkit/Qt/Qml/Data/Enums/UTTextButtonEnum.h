@@ -7,13 +7,23 @@ namespace UTTextButtonEnum {
 Q_NAMESPACE
 
 enum class TextButtonColorStyle : int {
-    Accent, Cobalt, Cyan, Mint, Lime, Warning, Gold, Orange, Pink, Purple, Violet, Slate, Share
+    Accent,
+    Cobalt,
+    Cyan,
+    Mint,
+    Lime,
+    Warning,
+    Gold,
+    Orange,
+    Pink,
+    Purple,
+    Violet,
+    Slate,
+    Share
 };
 Q_ENUM_NS(TextButtonColorStyle)
 
-enum class TextButtonSizeStyle : int {
-    Primary, Secondary
-};
+enum class TextButtonSizeStyle : int { Primary, Secondary };
 Q_ENUM_NS(TextButtonSizeStyle)
 
 } // namespace UTTextButtonEnum

@@ -6,19 +6,13 @@
 namespace UTTooltipEnum {
 Q_NAMESPACE
 
-enum TooltipStyle : int {
-    Native, Customized
-};
+enum TooltipStyle : int { Native, Customized };
 Q_ENUM_NS(TooltipStyle)
 
-enum ArrowAnchor : int {
-    None, Top, Bottom, Left, Right
-};
+enum ArrowAnchor : int { None, Top, Bottom, Left, Right };
 Q_ENUM_NS(ArrowAnchor)
 
-enum ArrowAlignment : int {
-    LeftAlignment, CenterAlignment, RightAlignment, TopAlignment, BottomAlignment
-};
+enum ArrowAlignment : int { LeftAlignment, CenterAlignment, RightAlignment, TopAlignment, BottomAlignment };
 Q_ENUM_NS(ArrowAlignment)
 
 } // namespace UTTooltipEnum

@@ -6,9 +6,7 @@
 namespace UTWatermarkEnum {
 Q_NAMESPACE
 
-enum WatermarkSize : int {
-    Large, Medium, Small
-};
+enum WatermarkSize : int { Large, Medium, Small };
 Q_ENUM_NS(WatermarkSize)
 
 } // namespace UTWatermarkEnum

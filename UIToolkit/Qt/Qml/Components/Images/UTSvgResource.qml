@@ -3,7 +3,7 @@
     until it is told a source size.
 
     \qml
-    UTSvgResource { svgName: "plus"; svgColor: "red"; sourceSize: Qt.size(16, 16) }
+    UTSvgResource { svgName: "plus-bold"; svgColor: "red"; sourceSize: Qt.size(16, 16) }
     \endqml
 */
 import QtQuick

@@ -36,10 +36,7 @@ private Q_SLOTS:
     void attachedInEveryEngine();
 
 private:
-    QString pluginFile() const
-    {
-        return QStringLiteral(UITOOLKIT_QML_DIR "/UIToolkitQml/libuitoolkitqml.so");
-    }
+    QString pluginFile() const { return QStringLiteral(UITOOLKIT_QML_DIR "/UIToolkitQml/libuitoolkitqml.so"); }
     QString errorOf(const QByteArray &source)
     {
         QQmlComponent component(&m_engine);
@@ -137,8 +134,7 @@ void tst_Registration::creationErrors_data()
          {"UTAlertBannerEnum", "UTCallControlButtonEnum", "UTIndicatorBadgeEnum", "UTIndentationBarEnum",
           "UTListAvatarSearchItem", "UTPopOverEnum", "UTPopupEnum", "UTTextButtonEnum", "UTTooltipEnum", "UTMenuEnum",
           "UTDiscoverabilityEnum", "UTWatermarkEnum"}) {
-        row("UIToolkitQml", name,
-            QLatin1StringView(name) + " is a namespace and cannot be created from QML"_L1);
+        row("UIToolkitQml", name, QLatin1StringView(name) + " is a namespace and cannot be created from QML"_L1);
     }
     for (const char *name : {"UTButtonStyle", "UTButtonSize", "UTButtonType", "UTChipStyle"})
         row("UIToolkitQml", name, QLatin1StringView(name) + " enum property."_L1);
@@ -193,9 +189,10 @@ void tst_Registration::attachedInEveryEngine()
     // The plugin stays loaded; an engine made later finds the same types.
     QQmlEngine second;
     QQmlComponent component(&second);
-    component.setData("import QtQuick\nimport UIToolkitQml 1.0\nimport UIToolkitQml_Private_Data 1.0\n"
-                      "Item { UTColorSetData.themeType: \"dark\"; property QtObject data: UTColorSetData.textColorData }",
-                      QUrl());
+    component.setData(
+        "import QtQuick\nimport UIToolkitQml 1.0\nimport UIToolkitQml_Private_Data 1.0\n"
+        "Item { UTColorSetData.themeType: \"dark\"; property QtObject data: UTColorSetData.textColorData }",
+        QUrl());
     std::unique_ptr<QObject> item(component.create());
     QVERIFY2(item, qPrintable(component.errorString()));
     QCOMPARE(item->property("data").value<QObject *>()->metaObject()->className(), "UTColorData");

@@ -173,9 +173,8 @@ void tst_Types::types_data()
         if (!modules.contains(module) || name.isEmpty() || names.contains(name))
             continue;
         names << name;
-        QTest::newRow(qPrintable(name))
-            << module << name << (type.isComposite() || type.isCreatable()) << type.isSingleton()
-            << type.baseMetaObject();
+        QTest::newRow(qPrintable(name)) << module << name << (type.isComposite() || type.isCreatable())
+                                        << type.isSingleton() << type.baseMetaObject();
     }
     // The rest is declared by the module's listing, and by that alone.
     QFile listing(u":/qt/qml/UIToolkitQml/qmldir"_s);

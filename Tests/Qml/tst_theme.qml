@@ -165,6 +165,17 @@ Item {
             verify(Qt.colorEqual(valueAt(item, data.color), data.type === "KSvgIcon" ? "black" : "transparent"), "without a set");
         }
 
+        // With real sets: their colours are values, and equal ones must count as equal.
+        function test_focusCountsOnlyWhereItDiffers() {
+            const focused = { enabled: true, activeFocus: true, checked: true };
+            for (const name of ThemeManager.colorSetNames()) {
+                const set = App.getColorSet(name);
+                const differs = !Qt.colorEqual(set.focused, set.normal);
+                const expected = differs ? set.focused : set.checked;
+                verify(Qt.colorEqual(ThemeUtils.getColor(focused, set), expected), name);
+            }
+        }
+
         function test_themeModeOfTheContext() {
             compare(darkSurface.children.length, 7);
             for (const child of Array.from(darkSurface.children))

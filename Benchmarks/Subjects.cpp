@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
+#include <private/qqmlmetatype_p.h>
 
 #include <algorithm>
 
@@ -38,6 +39,14 @@ Listing readListing()
             listing.components << words.first();
     }
     return listing;
+}
+
+bool isCompanion(const QString &name)
+{
+    const QList<QQmlType> types = QQmlMetaType::qmlTypes();
+    return std::any_of(types.begin(), types.end(), [&name](const QQmlType &type) {
+        return type.elementName() == name && type.module().startsWith("UIToolkitQml_"_L1);
+    });
 }
 
 QJsonObject readTable()
@@ -89,13 +98,13 @@ Subjects findSubjects(const QRegularExpression &filter)
     const QJsonObject rows = table["components"_L1].toObject();
     const Listing listing = readListing();
 
-    // What is in the bundle but not in the listing belongs to the companion modules.
+    // What is in the bundle but not in the listing belongs to the companion modules, or is a part of another component.
     QStringList components = listing.components;
     QSet<QString> companions;
     const QStringList files = QDir(bundle).entryList({u"*.qml"_s}, QDir::Files);
     for (const QString &file : files) {
         const QString name = file.chopped(4);
-        if (!listing.components.contains(name) && !listing.singletons.contains(name)) {
+        if (!listing.components.contains(name) && !listing.singletons.contains(name) && isCompanion(name)) {
             components << name;
             companions << name;
         }

@@ -55,14 +55,14 @@ void UTColorData::setColorCustomized(bool colorCustomized)
     Q_EMIT colorCustomizedChanged();
 }
 
-void UTColorData::setEventData(UTEventData *eventData)
+void UTColorData::setEventData(UTEventData *eventData, Following following)
 {
     if (m_eventData == eventData)
         return;
     if (m_eventData)
         disconnect(m_eventData, nullptr, this, nullptr);
     m_eventData = eventData;
-    if (eventData) {
+    if (eventData && following == Follows) {
         // Queued once more, so that bindings which react to the state have settled too.
         connect(eventData, &UTEventData::eventDataChanged, this, &UTColorData::onEventDataChanged,
                 Qt::QueuedConnection);

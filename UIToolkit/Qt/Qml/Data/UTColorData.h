@@ -44,8 +44,10 @@ public:
     void setActiveToken(const QString &activeToken);
     void setColor(const QColor &color);
     void setColorCustomized(bool colorCustomized);
-    //! Follows \a eventData from now on. The colour is recomputed with the next change, not at once.
-    void setEventData(UTEventData *eventData);
+    //! Who has the colour recomputed when the state changes: the object itself, or an owner of several.
+    enum Following { Follows, OwnerFollows };
+    //! Takes \a eventData as its state source. The colour is recomputed with the next change, not at once.
+    void setEventData(UTEventData *eventData, Following following = Follows);
     //! Passed to every look-up; the host knows the spellings. Empty by default.
     void setThemeType(const QString &themeType);
 

@@ -2,10 +2,13 @@
 
 #include "KObject.h"
 
+#include <QPointer>
+
 /*!
  * The interaction state of one item, as its data objects see it.
  *
- * A component binds the five flags to its own states and hands the object to its data object.
+ * A component binds the five flags to its own states, or names itself as the source of all of them,
+ * and hands the object to its data object.
  * All flags are false at first. Each has its own change signal; eventDataChanged() follows every
  * change one event-loop turn later, so that listeners see the flags as they have settled.
  */
@@ -17,8 +20,13 @@ class UTEventData : public KObject
     Q_PROPERTY(bool activeFocus READ activeFocus WRITE setActiveFocus NOTIFY activeFocusChanged FINAL)
     Q_PROPERTY(bool checked READ checked WRITE setChecked NOTIFY checkedChanged FINAL)
     Q_PROPERTY(bool pressed READ pressed WRITE setPressed NOTIFY pressedChanged FINAL)
+    //! The item whose properties of the same names the flags follow, in place of a binding on each; null by default.
+    //! A property that it lacks leaves its flag as it is.
+    Q_PROPERTY(QObject *source READ source WRITE setSource NOTIFY sourceChanged FINAL)
 
 public:
+    static constexpr int FlagCount = 5;
+
     explicit UTEventData(QObject *parent = nullptr);
 
     bool enabled() const { return m_enabled; }
@@ -26,12 +34,14 @@ public:
     bool activeFocus() const { return m_activeFocus; }
     bool checked() const { return m_checked; }
     bool pressed() const { return m_pressed; }
+    QObject *source() const { return m_source; }
 
     void setEnabled(bool enabled);
     void setHovered(bool hovered);
     void setActiveFocus(bool activeFocus);
     void setChecked(bool checked);
     void setPressed(bool pressed);
+    void setSource(QObject *source);
 
 Q_SIGNALS:
     void enabledChanged();
@@ -39,11 +49,17 @@ Q_SIGNALS:
     void activeFocusChanged();
     void checkedChanged();
     void pressedChanged();
+    void sourceChanged();
     void eventDataChanged();
+
+private Q_SLOTS:
+    void readSource();
 
 private:
     void setFlag(bool &flag, bool value, void (UTEventData::*changed)());
 
+    QPointer<QObject> m_source;
+    int m_sourceProperties[FlagCount] = {}; // indexes, -1 where there is none
     bool m_enabled = false;
     bool m_hovered = false;
     bool m_activeFocus = false;

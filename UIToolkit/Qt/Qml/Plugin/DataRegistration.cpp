@@ -16,6 +16,7 @@
 #include "UTIndicatorBadgeEnum.h"
 #include "UTListAvatarSearchItem.h"
 #include "UTMenuEnum.h"
+#include "UTPillButtonData.h"
 #include "UTPopOverEnum.h"
 #include "UTPopupEnum.h"
 #include "UTTextButtonEnum.h"
@@ -54,7 +55,7 @@ void registerMetaTypes()
 
 void DataRegistration::registerAll(const char *uri)
 {
-    registerAttached<AwaitedData>("UTPillButtonData");
+    registerAttached<UTPillButtonData>("UTPillButtonData");
     registerAttached<AwaitedData>("UTTextButtonData");
     registerAttached<AwaitedData>("UTMultilinePillButtonData");
     registerAttached<AwaitedData>("UTRectangleButtonData");

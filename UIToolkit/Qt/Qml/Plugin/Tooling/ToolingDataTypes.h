@@ -5,6 +5,7 @@
 #include "UTColorData.h"
 #include "UTColorSetData.h"
 #include "UTEventData.h"
+#include "UTPillButtonData.h"
 
 #include <QtQml/qqml.h>
 
@@ -31,4 +32,13 @@ struct UTEventDataTooling
     Q_GADGET
     QML_FOREIGN(UTEventData)
     QML_NAMED_ELEMENT(UTEventData)
+};
+
+struct UTPillButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTPillButtonData)
+    QML_NAMED_ELEMENT(UTPillButtonData)
+    QML_ATTACHED(UTPillButtonData)
+    QML_UNCREATABLE("UTPillButtonData attached property.")
 };

@@ -1,0 +1,89 @@
+/*!
+    A button in the form of a pill: a label with an icon on either side, in any of the button styles and sizes.
+
+    \qml
+    UTPillButton {
+        text: "Join"
+        leftIcon: "video-bold"
+        buttonStyle: UTButtonStyle.Join
+        buttonSize: UTButtonSize.L
+        onClicked: call.join()
+    }
+    \endqml
+*/
+import QtQuick
+import UIToolkitQml 1.0
+import UIToolkitQml_Private 1.0
+import UIToolkitQml_Private_Data 1.0
+
+UTButtonBase {
+    id: control
+
+    property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
+    property var focusRingThemeType: themeType
+    //! Icon names; empty for none.
+    property string leftIcon
+    property string rightIcon
+    //! A value of UTSvgResource.ImagePrefixType for both icons.
+    property var iconPrefixType: UTSvgResource.ImagePrefixType.None
+    //! Colour sets of the icons in place of those of the style.
+    property string iconColorSetName
+    property string rightIconColorSetName
+    //! A value of UTButtonStyle.
+    property int buttonStyle: UTButtonStyle.Primary
+    //! A value of UTButtonSize.
+    property int buttonSize: UTButtonSize.XL
+    //! Where the label lies in a button that is wider than it needs to be, Text.AlignLeft for example; the label is then
+    //! elided where it does not fit. Undefined for a centred label that never is.
+    property var alignment
+    //! The item that hosts the focus ring.
+    property var focusDesignatedParent: control
+    property bool innerFocusBorder: false
+    //! Keeps the icons next to an aligned label, instead of at the ends of the button.
+    property bool isIconAlignText: false
+    readonly property bool isTruncated: isTextEilded === true
+
+    function focusRingSettings(): var {
+        return {
+            innerFocusBorder: () => control.innerFocusBorder,
+            designatedParent: () => control.focusDesignatedParent,
+            themeType: () => control.focusRingThemeType
+        };
+    }
+
+    UTPillButtonData.themeType: themeType
+    UTPillButtonData.style: buttonStyle
+    UTPillButtonData.size: buttonSize
+    UTPillButtonData.eventData: UTEventData { source: control }
+
+    isTextEilded: false
+    implicitHeight: Math.max(UTPillButtonData.height, implicitContentHeight)
+    leftPadding: UTPillButtonData.leftPadding
+    rightPadding: UTPillButtonData.rightPadding
+
+    background: Rectangle {
+        radius: control.UTPillButtonData.radius
+        color: control.UTPillButtonData.backgroundColorData.color
+        border.color: control.UTPillButtonData.borderColorData.color
+        border.width: control.UTPillButtonData.border
+    }
+    contentItem: Text {
+        text: control.text
+        font: control.UTPillButtonData.font
+        color: control.UTPillButtonData.textColorData.color
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        onTruncatedChanged: control.isTextEilded = truncated
+    }
+
+    // Most buttons have neither an alignment nor icons nor colours for them, and shall not pay for them.
+    onAlignmentChanged: {
+        const label = contentItem as Text;
+        label.elide = alignment !== undefined ? Text.ElideRight : Text.ElideNone;
+        label.horizontalAlignment = alignment ?? Text.AlignHCenter;
+    }
+    onLeftIconChanged: needPart("leftIcon", "PillIcon", { control: control }, contentItem)
+    onRightIconChanged: needPart("rightIcon", "PillIcon", { control: control, isRight: true }, contentItem)
+    onIconColorSetNameChanged: UTPillButtonData.iconColorSetName = iconColorSetName
+    onRightIconColorSetNameChanged: UTPillButtonData.rightIconColorSetName = rightIconColorSetName
+}

@@ -12,13 +12,16 @@
 #include "UTDiscoverabilityEnum.h"
 #include "UTDynamicResource.h"
 #include "UTEventData.h"
+#include "UTEventFilterData.h"
 #include "UTIndentationBarEnum.h"
 #include "UTIndicatorBadgeEnum.h"
+#include "UTKeyEventData.h"
 #include "UTListAvatarSearchItem.h"
 #include "UTMenuEnum.h"
 #include "UTPillButtonData.h"
 #include "UTPopOverEnum.h"
 #include "UTPopupEnum.h"
+#include "UTShortcutOverride.h"
 #include "UTTextButtonEnum.h"
 #include "UTTooltipEnum.h"
 #include "UTWatermarkEnum.h"
@@ -70,9 +73,9 @@ void DataRegistration::registerAll(const char *uri)
     registerAttached<AwaitedData>("UTRichTextAreaData");
     registerAttached<AwaitedData>("UTToolTipData");
     registerAttached<AwaitedData>("UTDynamicResourceData");
-    registerAttached<AwaitedData>("UTKeyEventData");
-    registerAttached<AwaitedData>("UTEventFilterData");
-    registerAttached<AwaitedData>("UTShortcutOverride");
+    registerAttached<UTKeyEventData>("UTKeyEventData");
+    registerAttached<UTEventFilterData>("UTEventFilterData");
+    registerAttached<UTShortcutOverride>("UTShortcutOverride");
     registerAttached<UTColorData>("UTColorData");
 
     qmlRegisterType<UTEventData>(dataUri, 1, 0, "UTEventData");

@@ -5,7 +5,10 @@
 #include "UTColorData.h"
 #include "UTColorSetData.h"
 #include "UTEventData.h"
+#include "UTEventFilterData.h"
+#include "UTKeyEventData.h"
 #include "UTPillButtonData.h"
+#include "UTShortcutOverride.h"
 
 #include <QtQml/qqml.h>
 
@@ -34,6 +37,24 @@ struct UTEventDataTooling
     QML_NAMED_ELEMENT(UTEventData)
 };
 
+struct UTEventFilterDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTEventFilterData)
+    QML_NAMED_ELEMENT(UTEventFilterData)
+    QML_ATTACHED(UTEventFilterData)
+    QML_UNCREATABLE("UTEventFilterData attached property.")
+};
+
+struct UTKeyEventDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTKeyEventData)
+    QML_NAMED_ELEMENT(UTKeyEventData)
+    QML_ATTACHED(UTKeyEventData)
+    QML_UNCREATABLE("UTKeyEventData attached property.")
+};
+
 struct UTPillButtonDataTooling
 {
     Q_GADGET
@@ -41,4 +62,13 @@ struct UTPillButtonDataTooling
     QML_NAMED_ELEMENT(UTPillButtonData)
     QML_ATTACHED(UTPillButtonData)
     QML_UNCREATABLE("UTPillButtonData attached property.")
+};
+
+struct UTShortcutOverrideTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTShortcutOverride)
+    QML_NAMED_ELEMENT(UTShortcutOverride)
+    QML_ATTACHED(UTShortcutOverride)
+    QML_UNCREATABLE("UTShortcutOverride attached property.")
 };

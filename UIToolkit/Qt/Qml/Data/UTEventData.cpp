@@ -1,7 +1,11 @@
 #include "UTEventData.h"
 
+#include <QHash>
 #include <QMetaMethod>
 #include <QMetaProperty>
+
+#include <array>
+#include <cstring>
 
 namespace {
 
@@ -16,6 +20,44 @@ constexpr Flag flags[UTEventData::FlagCount] = {
     {"activeFocus", &UTEventData::setActiveFocus}, {"checked", &UTEventData::setChecked},
     {"pressed", &UTEventData::setPressed},
 };
+
+// Where a flag is found in a class: its property and the signal of its changes, -1 for none.
+struct FlagProperty
+{
+    int index = -1;
+    int notifySignal = -1;
+};
+using FlagProperties = std::array<FlagProperty, UTEventData::FlagCount>;
+
+FlagProperty findFlag(const QMetaObject *metaObject, const char *name)
+{
+    const int index = metaObject->indexOfProperty(name);
+    return index < 0 ? FlagProperty() : FlagProperty{index, metaObject->property(index).notifySignalIndex()};
+}
+
+// Searching the long list of an item's properties is what following an item costs, so the answers for compiled classes are
+// kept. QML types come and go, and are searched for what their compiled class lacks.
+FlagProperties findFlags(const QMetaObject *metaObject)
+{
+    const QMetaObject *compiled = metaObject;
+    while (std::strstr(compiled->className(), "_QML"))
+        compiled = compiled->superClass();
+
+    static QHash<const QMetaObject *, FlagProperties> known;
+    auto it = known.constFind(compiled);
+    if (it == known.constEnd()) {
+        FlagProperties found;
+        for (size_t i = 0; i < found.size(); ++i)
+            found[i] = findFlag(compiled, flags[i].name);
+        it = known.insert(compiled, found);
+    }
+    FlagProperties properties = it.value();
+    for (size_t i = 0; i < properties.size() && compiled != metaObject; ++i) {
+        if (properties[i].index < 0)
+            properties[i] = findFlag(metaObject, flags[i].name);
+    }
+    return properties;
+}
 
 } // namespace
 
@@ -58,14 +100,11 @@ void UTEventData::setSource(QObject *source)
     m_source = source;
     if (source) {
         static const int changed = staticMetaObject.indexOfSlot("readSource()");
-        const QMetaObject *metaObject = source->metaObject();
-        for (int i = 0; i < FlagCount; ++i) {
-            m_sourceProperties[i] = metaObject->indexOfProperty(flags[i].name);
-            if (m_sourceProperties[i] < 0)
-                continue;
-            const QMetaProperty property = metaObject->property(m_sourceProperties[i]);
-            if (property.hasNotifySignal())
-                QMetaObject::connect(source, property.notifySignalIndex(), this, changed);
+        const FlagProperties properties = findFlags(source->metaObject());
+        for (size_t i = 0; i < properties.size(); ++i) {
+            m_sourceProperties[i] = properties[i].index;
+            if (properties[i].notifySignal >= 0)
+                QMetaObject::connect(source, properties[i].notifySignal, this, changed);
         }
         readSource();
     }
@@ -75,7 +114,7 @@ void UTEventData::setSource(QObject *source)
 void UTEventData::readSource()
 {
     const QMetaObject *metaObject = m_source->metaObject();
-    for (int i = 0; i < FlagCount; ++i) {
+    for (size_t i = 0; i < FlagCount; ++i) {
         if (m_sourceProperties[i] >= 0)
             (this->*flags[i].set)(metaObject->property(m_sourceProperties[i]).read(m_source).toBool());
     }

@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <array>
+
 /*!
  * The interaction state of one item, as its data objects see it.
  *
@@ -25,7 +27,7 @@ class UTEventData : public KObject
     Q_PROPERTY(QObject *source READ source WRITE setSource NOTIFY sourceChanged FINAL)
 
 public:
-    static constexpr int FlagCount = 5;
+    static constexpr size_t FlagCount = 5;
 
     explicit UTEventData(QObject *parent = nullptr);
 
@@ -59,7 +61,7 @@ private:
     void setFlag(bool &flag, bool value, void (UTEventData::*changed)());
 
     QPointer<QObject> m_source;
-    int m_sourceProperties[FlagCount] = {}; // indexes, -1 where there is none
+    std::array<int, FlagCount> m_sourceProperties = {}; // indexes, -1 where there is none
     bool m_enabled = false;
     bool m_hovered = false;
     bool m_activeFocus = false;

@@ -9,6 +9,7 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 QtObject {
     id: attention
@@ -17,17 +18,17 @@ QtObject {
 
     readonly property bool hasKeyboardFocus: control.activeFocus && App.isKeyboardFocus
     readonly property bool isTipWanted: control.shouldTooltipBeDisplayed && (control.hovered || hasKeyboardFocus)
-        && control.tooltipText().length > 0
+        && Script.tooltipText(control).length > 0
 
     onHasKeyboardFocusChanged: {
         const settings = control.focusRingSettings();
         if (hasKeyboardFocus && settings)
-            control.needPart("focusRing", "KCustomFocusItem", settings, control);
+            Script.needPart(control, "focusRing", "KCustomFocusItem", settings, control);
     }
     onIsTipWantedChanged: {
         if (isTipWanted) {
-            control.needPart("tip", "ToolTipWithWindow", {
-                tooltipText: () => control.tooltipText(),
+            Script.needPart(control, "tip", "ToolTipWithWindow", {
+                tooltipText: () => Script.tooltipText(control),
                 isTooltipCustom: () => control.isTooltipCustom,
                 active: () => attention.isTipWanted
             }, control);

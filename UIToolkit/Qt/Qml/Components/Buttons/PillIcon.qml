@@ -17,41 +17,36 @@ UTSvgResource {
     readonly property Text label: parent as Text
     // On which side it really is.
     readonly property bool isAfter: isRight !== control.mirrored
+    // What an icon takes from the label.
+    readonly property real room: width + control.UTPillButtonData.spacing
 
-    function roomFor(iconName: string): real {
-        return iconName.length > 0 ? sourceSize.width + control.UTPillButtonData.spacing : 0;
-    }
-
-    // Where the row of icons and text begins.
-    function rowStart(): real {
-        const freeRoom = label.width - label.leftPadding - label.contentWidth - label.rightPadding;
-        switch (label.effectiveHorizontalAlignment) {
-        case Text.AlignLeft:
-            return 0;
-        case Text.AlignRight:
-            return freeRoom;
-        default:
-            return Math.round(freeRoom / 2);
-        }
+    // For the icon on the other side as well, which is of the same size.
+    function takeRoom(): void {
+        const before = control.mirrored ? control.rightIcon : control.leftIcon;
+        const after = control.mirrored ? control.leftIcon : control.rightIcon;
+        label.leftPadding = before.length > 0 ? room : 0;
+        label.rightPadding = after.length > 0 ? room : 0;
     }
 
     x: {
         const isApart = control.alignment !== undefined && !control.isIconAlignText;
-        if (!isAfter)
-            return isApart ? 0 : rowStart();
-        return isApart ? label.width - width : rowStart() + label.leftPadding + label.contentWidth + label.rightPadding - width;
+        let freeRoom = isApart ? 0 : label.width - label.leftPadding - label.contentWidth - label.rightPadding;
+        if (freeRoom > 0 && label.effectiveHorizontalAlignment === (isAfter ? Text.AlignRight : Text.AlignLeft))
+            freeRoom = 0;
+        else if (freeRoom > 0 && label.effectiveHorizontalAlignment === Text.AlignHCenter)
+            freeRoom = Math.round(freeRoom / 2);
+        return isAfter ? label.width - width - freeRoom : freeRoom;
     }
     y: Math.round((label.height - height) / 2)
     width: sourceSize.width
-    height: sourceSize.height
+    height: width
     visible: svgName.length > 0
     svgName: isRight ? control.rightIcon : control.leftIcon
     svgColor: isRight ? control.UTPillButtonData.rightIconColorData.color : control.UTPillButtonData.iconColorData.color
     imagePrefixType: control.iconPrefixType
     sourceSize: control.UTPillButtonData.iconSize
 
-    Component.onCompleted: {
-        label.leftPadding = Qt.binding(() => roomFor(control.mirrored ? control.rightIcon : control.leftIcon));
-        label.rightPadding = Qt.binding(() => roomFor(control.mirrored ? control.leftIcon : control.rightIcon));
-    }
+    onRoomChanged: takeRoom()
+    onVisibleChanged: takeRoom()
+    onIsAfterChanged: takeRoom()
 }

@@ -13,7 +13,7 @@
 */
 import QtQuick
 import QtQuick.Templates as T
-import Korvu 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 T.Button {
     id: control
@@ -31,27 +31,14 @@ T.Button {
     //! Spoken when it changes while the button has the focus.
     property string accessibleText
 
-    //! What the tool tip shows now; empty for none.
-    function tooltipText(): string {
-        if (isTextEilded === undefined)
-            return tooltip;
-        const prepended = isTextEilded ? text : "";
-        const appended = tooltip !== text ? tooltip : "";
-        return prepended && appended ? qsTr("%1\n%2").arg(prepended).arg(appended) : prepended || appended;
-    }
+    // For the script: whether an activating key is down, and the parts made so far by name.
+    property bool isKeyPressed: false
+    property var parts
 
     //! The properties of the focus ring, a KCustomFocusItem; null, the default, for no ring. The ring is made when the
     //! keyboard first reaches the button; values that may change later are functions, and followed.
     function focusRingSettings(): var {
         return null;
-    }
-
-    //! The part called \a name, made when first asked for: the component \a type with \a settings, those that are
-    //! functions bound, on \a parent. For what most buttons never show.
-    function needPart(name: string, type: string, settings: var, parent: QtObject): QtObject {
-        if (!priv.parts[name])
-            priv.parts[name] = priv.create(type, settings, parent);
-        return priv.parts[name];
     }
 
     //! What the keyboard and assistive technology do to press the button.
@@ -76,57 +63,20 @@ T.Button {
     implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset, implicitContentHeight + topPadding + bottomPadding)
 
-    Keys.onPressed: event => priv.handleKey(event, true)
-    Keys.onReleased: event => priv.handleKey(event, false)
+    Keys.onPressed: event => Script.handleKey(control, event, true)
+    Keys.onReleased: event => Script.handleKey(control, event, false)
 
-    onHoveredChanged: priv.attend()
+    onHoveredChanged: Script.attend(control)
     onActiveFocusChanged: {
-        priv.isKeyPressed = false;
-        priv.attend();
+        isKeyPressed = false;
+        Script.attend(control);
     }
     onCheckedChanged: {
         if (announceStateChange)
-            priv.say(checked ? qsTr("Checked") : qsTr("Unchecked"));
+            Script.say(control, checked ? qsTr("Checked") : qsTr("Unchecked"));
     }
-    onAccessibleTextChanged: priv.say(accessibleText)
+    onAccessibleTextChanged: Script.say(control, accessibleText)
 
-    Accessible.name: text || tooltip
-
-    QtObject {
-        id: priv
-
-        property bool isKeyPressed: false
-        readonly property var parts: ({})
-
-        function attend(): void {
-            if (control.hovered || control.activeFocus)
-                control.needPart("attention", "ButtonAttention", { control: control }, control);
-        }
-
-        function create(type: string, settings: var, parent: QtObject): QtObject {
-            for (const name in settings) {
-                if (typeof settings[name] === "function")
-                    settings[name] = Qt.binding(settings[name]);
-            }
-            return Qt.createComponent("%1.qml".arg(type)).createObject(parent, settings);
-        }
-
-        // Acts on release, and only if the key went down on this button. Auto-repeated keys are swallowed.
-        function handleKey(event: KeyEvent, isPress: bool): void {
-            if (event.key !== Qt.Key_Space && event.key !== Qt.Key_Return && event.key !== Qt.Key_Enter)
-                return;
-            event.accepted = true;
-            if (event.isAutoRepeat)
-                return;
-            const activates = !isPress && isKeyPressed;
-            isKeyPressed = isPress;
-            if (activates)
-                control.activate();
-        }
-
-        function say(text: string): void {
-            if (control.activeFocus && UIToolKitUtils.isQt6Used())
-                UIToolKitUtils.sayAccessible(control, text);
-        }
-    }
+    // The text is the name without further ado.
+    onTooltipChanged: Accessible.name = Qt.binding(() => control.text || control.tooltip)
 }

@@ -15,6 +15,7 @@ import QtQuick
 import UIToolkitQml 1.0
 import UIToolkitQml_Private 1.0
 import UIToolkitQml_Private_Data 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 UTButtonBase {
     id: control
@@ -25,14 +26,14 @@ UTButtonBase {
     property string leftIcon
     property string rightIcon
     //! A value of UTSvgResource.ImagePrefixType for both icons.
-    property var iconPrefixType: UTSvgResource.ImagePrefixType.None
+    property var iconPrefixType: 0 // UTSvgResource.ImagePrefixType.None
     //! Colour sets of the icons in place of those of the style.
     property string iconColorSetName
     property string rightIconColorSetName
     //! A value of UTButtonStyle.
-    property int buttonStyle: UTButtonStyle.Primary
+    property int buttonStyle: 1 // UTButtonStyle.Primary
     //! A value of UTButtonSize.
-    property int buttonSize: UTButtonSize.XL
+    property int buttonSize: 1 // UTButtonSize.XL
     //! Where the label lies in a button that is wider than it needs to be, Text.AlignLeft for example; the label is then
     //! elided where it does not fit. Undefined for a centred label that never is.
     property var alignment
@@ -58,8 +59,7 @@ UTButtonBase {
 
     isTextEilded: false
     implicitHeight: Math.max(UTPillButtonData.height, implicitContentHeight)
-    leftPadding: UTPillButtonData.leftPadding
-    rightPadding: UTPillButtonData.rightPadding
+    horizontalPadding: UTPillButtonData.leftPadding // the same on the right in every size
 
     background: Rectangle {
         radius: control.UTPillButtonData.radius
@@ -74,16 +74,17 @@ UTButtonBase {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         onTruncatedChanged: control.isTextEilded = truncated
+        // Before the first layout, which all this would upset.
+        onParentChanged: {
+            if (control.alignment !== undefined || control.leftIcon || control.rightIcon)
+                Script.arrangePill(control, this);
+        }
     }
 
     // Most buttons have neither an alignment nor icons nor colours for them, and shall not pay for them.
-    onAlignmentChanged: {
-        const label = contentItem as Text;
-        label.elide = alignment !== undefined ? Text.ElideRight : Text.ElideNone;
-        label.horizontalAlignment = alignment ?? Text.AlignHCenter;
-    }
-    onLeftIconChanged: needPart("leftIcon", "PillIcon", { control: control }, contentItem)
-    onRightIconChanged: needPart("rightIcon", "PillIcon", { control: control, isRight: true }, contentItem)
+    onAlignmentChanged: Script.rearrangePill(control)
+    onLeftIconChanged: Script.rearrangePill(control)
+    onRightIconChanged: Script.rearrangePill(control)
     onIconColorSetNameChanged: UTPillButtonData.iconColorSetName = iconColorSetName
     onRightIconColorSetNameChanged: UTPillButtonData.rightIconColorSetName = rightIconColorSetName
 }

@@ -22,31 +22,28 @@ KImage {
     property color svgColor: "transparent"
     property string svgName
     property string pngName
-    property int imagePrefixType: UTSvgResource.ImagePrefixType.None
+    property int imagePrefixType: 0 // UTSvgResource.ImagePrefixType.None
     property string emojiName
     property bool validSize: false
-
-    // The source in the form of \a prefixType, empty where a part of it is missing.
-    function sourceOf(prefixType: int): string {
-        switch (prefixType) {
-        case UTSvgResource.ImagePrefixType.Png:
-            return pngName.length > 0 ? "qrc:/Resources/%1".arg(pngName) : "";
-        case UTSvgResource.ImagePrefixType.Emoji:
-            return svgName.length > 0 ? "qrc:/emojis/%1".arg(svgName) : "";
-        case UTSvgResource.ImagePrefixType.EmojiWithTheme:
-            return emojiName.length > 0 ? "%1/%2/0".arg(emojiName).arg(themeType) : "";
-        case UTSvgResource.ImagePrefixType.Svg:
-            return svgName.length > 0 && !Qt.colorEqual(svgColor, "transparent") ? "image://svg/%1/%2".arg(svgColor).arg(svgName) : "";
-        default:
-            return sourceOf(UTSvgResource.ImagePrefixType.Svg) || sourceOf(UTSvgResource.ImagePrefixType.Png)
-                || sourceOf(UTSvgResource.ImagePrefixType.EmojiWithTheme);
-        }
-    }
 
     antialiasing: true
     mipmap: true
     smooth: true
-    source: validSize ? sourceOf(imagePrefixType) : ""
+    source: {
+        if (!validSize)
+            return "";
+        // Numbers, because looking up an enumerator costs more than all the rest. An unknown one stands for None.
+        const type = imagePrefixType >= 1 && imagePrefixType <= 4 ? imagePrefixType : 0;
+        if ((type === 0 || type === 4) && svgName.length > 0 && svgColor.a > 0) // Svg
+            return "image://svg/" + svgColor + "/" + svgName;
+        if ((type === 0 || type === 1) && pngName.length > 0) // Png
+            return "qrc:/Resources/" + pngName;
+        if (type === 2 && svgName.length > 0) // Emoji
+            return "qrc:/emojis/" + svgName;
+        if ((type === 0 || type === 3) && emojiName.length > 0) // EmojiWithTheme
+            return emojiName + "/" + themeType + "/0";
+        return "";
+    }
 
     onSourceSizeChanged: validSize = sourceSize.width > 0 && sourceSize.height > 0
 }

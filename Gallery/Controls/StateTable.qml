@@ -1,0 +1,142 @@
+/*!
+    A table of examples: a row for each value and a column for each state.
+
+    \qml
+    StateTable {
+        title: qsTr("Styles")
+        rows: ["Primary", "Secondary"]
+        delegate: UTPillButton {
+            required property string row
+            required property StateRecord exampleState
+            buttonStyle: UTButtonStyle[row]
+            UTPillButtonData.eventData: UTEventData { source: exampleState }
+        }
+    }
+    \endqml
+*/
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import UIToolkitQml 1.0
+import Gallery
+
+Column {
+    id: control
+
+    property string title
+    property var rows: []
+    //! Makes an example. It must have the properties row, an element of rows, and exampleState, a StateRecord.
+    property Component delegate
+    //! The ground behind the row of the given name, where it needs another one than the page's.
+    property var groundOf: row => "transparent"
+
+    width: parent?.width ?? 0
+    spacing: Metrics.small
+
+    GalleryText {
+        visible: control.title.length > 0
+        text: control.title
+        font: FontConstants.subheaderPrimary
+        Accessible.role: Accessible.Heading
+    }
+    Card {
+        width: parent.width
+        height: table.height + 2 * Metrics.large
+
+        Flickable {
+            anchors {
+                fill: parent
+                margins: Metrics.large
+            }
+            contentWidth: table.width
+            flickableDirection: Flickable.HorizontalFlick
+            boundsBehavior: Flickable.StopAtBounds
+            clip: contentWidth > width
+
+            Column {
+                id: table
+
+                readonly property real labelWidth: 120
+                readonly property real columnWidth: {
+                    let width = 72;
+                    for (let i = 0; i < children.length; ++i)
+                        width = Math.max(width, children[i].widest ?? 0);
+                    return width;
+                }
+
+                spacing: Metrics.medium
+
+                Row {
+                    spacing: Metrics.small
+
+                    Item {
+                        width: table.labelWidth
+                        height: 1
+                    }
+                    Repeater {
+                        model: ExampleStates.all
+
+                        GalleryText {
+                            required property StateRecord modelData
+
+                            width: table.columnWidth
+                            text: modelData.name
+                            font: FontConstants.tagLabelTertiary
+                            textColorSetName: "text-secondary"
+                            horizontalAlignment: Text.AlignHCenter
+                        }
+                    }
+                }
+                Repeater {
+                    model: control.rows
+
+                    KRectangle {
+                        id: line
+
+                        required property var modelData
+                        property real widest: 0
+
+                        width: cells.width
+                        height: cells.height + (color.a > 0 ? 2 * Metrics.small : 0)
+                        radius: Metrics.smallRadius
+                        backgroundColorSetName: control.groundOf(modelData)
+
+                        Row {
+                            id: cells
+
+                            anchors.verticalCenter: parent.verticalCenter
+                            spacing: Metrics.small
+
+                            GalleryText {
+                                width: table.labelWidth
+                                anchors.verticalCenter: parent.verticalCenter
+                                text: String(line.modelData)
+                                font: FontConstants.tagLabelTertiary
+                                elide: Text.ElideRight
+                            }
+                            Repeater {
+                                model: ExampleStates.all
+
+                                Item {
+                                    id: cell
+
+                                    required property StateRecord modelData
+
+                                    width: table.columnWidth
+                                    height: childrenRect.height
+                                    anchors.verticalCenter: parent.verticalCenter
+
+                                    Component.onCompleted: {
+                                        const example = control.delegate.createObject(cell, { row: line.modelData, exampleState: modelData });
+                                        example.x = Qt.binding(() => Math.round((cell.width - example.width) / 2));
+                                        line.widest = Math.max(line.widest, example.width);
+                                    }
+                                }
+                            }
+                        }
+                    }
+                }
+            }
+        }
+    }
+}

@@ -19,6 +19,7 @@
 #include "UTListAvatarSearchItem.h"
 #include "UTMenuEnum.h"
 #include "UTPillButtonData.h"
+#include "UTPopOverData.h"
 #include "UTPopOverEnum.h"
 #include "UTPopupEnum.h"
 #include "UTShortcutOverride.h"
@@ -65,7 +66,7 @@ void DataRegistration::registerAll(const char *uri)
     registerAttached<AwaitedData>("UTRoundButtonData");
     registerAttached<AwaitedData>("UTIconButtonData");
     registerAttached<AwaitedData>("UTChipData");
-    registerAttached<AwaitedData>("UTPopOverData");
+    registerAttached<UTPopOverData>("UTPopOverData");
     registerAttached<AwaitedData>("UTCallControlButtonData");
     registerAttached<AwaitedData>("UTBlockButtonData");
     registerAttached<UTColorSetData>("UTColorSetData");

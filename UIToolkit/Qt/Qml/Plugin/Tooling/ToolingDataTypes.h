@@ -8,6 +8,7 @@
 #include "UTEventFilterData.h"
 #include "UTKeyEventData.h"
 #include "UTPillButtonData.h"
+#include "UTPopOverData.h"
 #include "UTShortcutOverride.h"
 
 #include <QtQml/qqml.h>
@@ -71,4 +72,13 @@ struct UTShortcutOverrideTooling
     QML_NAMED_ELEMENT(UTShortcutOverride)
     QML_ATTACHED(UTShortcutOverride)
     QML_UNCREATABLE("UTShortcutOverride attached property.")
+};
+
+struct UTPopOverDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTPopOverData)
+    QML_NAMED_ELEMENT(UTPopOverData)
+    QML_ATTACHED(UTPopOverData)
+    QML_UNCREATABLE("UTPopOverData attached property.")
 };

@@ -172,6 +172,7 @@ QString Report::toText(const Results &results)
     text += instancesTable(results);
     text += figuresTable(u"Change of theme"_s, results.theme);
     text += figuresTable(u"Reading a colour set"_s, results.calls);
+    text += figuresTable(u"Long lists"_s, results.lists);
     text += figuresTable(u"Loading, all threads, in a process of its own"_s, results.load);
     text += namesWithReasons(u"skipped"_s, results.skipped);
     text += namesWithReasons(u"FAILED"_s, results.failed);
@@ -192,6 +193,7 @@ QJsonObject Report::toJson(const Results &results)
             {u"instances"_s, instances},
             {u"theme"_s, ::toJson(results.theme)},
             {u"calls"_s, ::toJson(results.calls)},
+            {u"lists"_s, ::toJson(results.lists)},
             {u"load"_s, ::toJson(results.load)},
             {u"skipped"_s, ::toJson(results.skipped)},
             {u"failed"_s, ::toJson(results.failed)}};

@@ -63,6 +63,7 @@ struct Results
     QList<Figure> theme;
     QList<Figure> calls;
     QList<Figure> load;
+    QList<Figure> lists;
     int rounds = 0;
     bool quick = false;
 };

@@ -1,6 +1,7 @@
 #include "AllocationCounter.h"
 #include "Budgets.h"
 #include "InstanceBench.h"
+#include "ListBench.h"
 #include "LoadBench.h"
 #include "ObjectCounter.h"
 #include "Report.h"
@@ -168,6 +169,7 @@ int main(int argc, char *argv[])
         InstanceBench(stage, subjects.list).run(results);
         ThemeBench::run(stage, results);
     }
+    ListBench::run(&engine, results);
     LoadBench::run(results);
 
     std::fputs(qPrintable(Report::toText(results)), stdout);

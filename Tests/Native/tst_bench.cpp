@@ -132,7 +132,7 @@ void tst_Bench::figuresAreSane()
     QVERIFY(byName[u"KPane"_s][u"toMaterial"].toDouble() > 0);
     QVERIFY(byName[u"KRectangle"_s][u"toPlain"].toDouble() > 0);
     QVERIFY(!byName[u"KRectangle"_s].contains(u"toBasic"));
-    for (const QString &section : {u"theme"_s, u"calls"_s, u"load"_s}) {
+    for (const QString &section : {u"theme"_s, u"calls"_s, u"lists"_s, u"load"_s}) {
         const QJsonArray figures = run.json[section].toArray();
         QVERIFY2(!figures.isEmpty(), qPrintable(section));
         for (const QJsonValue &figure : figures)

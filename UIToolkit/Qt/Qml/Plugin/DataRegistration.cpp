@@ -17,6 +17,7 @@
 #include "UTIndicatorBadgeEnum.h"
 #include "UTKeyEventData.h"
 #include "UTListAvatarSearchItem.h"
+#include "UTListData.h"
 #include "UTMenuEnum.h"
 #include "UTPillButtonData.h"
 #include "UTPopOverData.h"
@@ -80,7 +81,7 @@ void DataRegistration::registerAll(const char *uri)
     registerAttached<UTColorData>("UTColorData");
 
     qmlRegisterType<UTEventData>(dataUri, 1, 0, "UTEventData");
-    AwaitedData::registerCreatable(dataUri, "UTListData");
+    qmlRegisterType<UTListData>(dataUri, 1, 0, "UTListData");
     AwaitedData::registerCreatable(dataUri, "UTLinkData");
 
     qmlRegisterType<QMovie>(uri, 1, 0, "KMovie");

@@ -7,6 +7,7 @@
 #include "UTEventData.h"
 #include "UTEventFilterData.h"
 #include "UTKeyEventData.h"
+#include "UTListData.h"
 #include "UTPillButtonData.h"
 #include "UTPopOverData.h"
 #include "UTShortcutOverride.h"
@@ -54,6 +55,13 @@ struct UTKeyEventDataTooling
     QML_NAMED_ELEMENT(UTKeyEventData)
     QML_ATTACHED(UTKeyEventData)
     QML_UNCREATABLE("UTKeyEventData attached property.")
+};
+
+struct UTListDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTListData)
+    QML_NAMED_ELEMENT(UTListData)
 };
 
 struct UTPillButtonDataTooling

@@ -1,0 +1,440 @@
+#include "UTListAvatarSearchItem.h"
+#include "UTListData.h"
+
+#include <QAbstractListModel>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QTest>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using namespace UTListAvatarSearchItem;
+
+namespace {
+
+// A row is a character: "-" a plain one, "|" a divider, "A" the header of group A, "#" one without a name, "s" a header that
+// can be selected.
+enum Kind { Plain, Group, Divider, Sign };
+
+Kind kindOf(QChar row)
+{
+    return row == u'-' ? Plain : row == u'|' ? Divider : row.isLower() ? Sign : Group;
+}
+
+//! A model that changes in every way that models have, and lies when told to.
+class Rows : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    enum Role { KindRole = Qt::UserRole, NameRole };
+
+    explicit Rows(const QString &rows = {})
+        : rows(rows)
+    {
+    }
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : surplus + int(rows.size());
+    }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (index.row() >= rows.size())
+            return {};
+        const QChar row = rows[index.row()];
+        return role == KindRole ? QVariant(kindOf(row)) : QVariant(row.isLetter() ? QString(row) : QString());
+    }
+    QHash<int, QByteArray> roleNames() const override { return {{KindRole, "kind"}, {NameRole, "name"}}; }
+
+    void insert(int at, const QString &added)
+    {
+        beginInsertRows({}, at, at + int(added.size()) - 1);
+        rows.insert(at, added);
+        endInsertRows();
+    }
+    void remove(int first, int count)
+    {
+        beginRemoveRows({}, first, first + count - 1);
+        rows.remove(first, count);
+        endRemoveRows();
+    }
+    void move(int first, int count, int to)
+    {
+        if (!beginMoveRows({}, first, first + count - 1, {}, to))
+            return;
+        const QString moved = rows.mid(first, count);
+        rows.remove(first, count).insert(to > first ? to - count : to, moved);
+        endMoveRows();
+    }
+    void change(int at, QChar row)
+    {
+        const bool isNewName = kindOf(row) == kindOf(rows[at]);
+        rows[at] = row;
+        Q_EMIT dataChanged(index(at), index(at), isNewName ? QList<int>{NameRole} : QList<int>());
+    }
+    void reset(const QString &all)
+    {
+        beginResetModel();
+        rows = all;
+        endResetModel();
+    }
+    void lie()
+    {
+        Q_EMIT dataChanged(index(0), QModelIndex());
+        beginInsertRows({}, 0, 3);
+        endInsertRows();
+        beginRemoveRows({}, 2, 3);
+        endRemoveRows();
+    }
+
+    QString rows;
+    int surplus = 0; // rows without data
+};
+
+//! The rules, written down the slow way.
+struct Naive
+{
+    explicit Naive(const QString &rows)
+        : rows(rows)
+    {
+        for (int i = 0; i < rows.size(); ++i) {
+            if (i == 0 || isHeader(i))
+                starts << i;
+            section << int(starts.size()) - 1;
+        }
+    }
+    bool isHeader(int row) const { return kindOf(rows[row]) == Group || kindOf(rows[row]) == Sign; }
+    bool isNamed(int row) const { return rows[starts[section[row]]].isLetter(); }
+    bool isSelectable(int row) const { return kindOf(rows[row]) == Plain || kindOf(rows[row]) == Sign; }
+    QString list() const
+    {
+        const bool grouped = starts.size() > 1 || (!rows.isEmpty() && isNamed(0));
+        const qsizetype n = grouped ? starts.size() : rows.size();
+        return u"%1 %2%3"_s.arg(QString::number(n), grouped ? u"Group"_s : u"Item"_s, n == 1 ? u""_s : u"s"_s);
+    }
+    QString description(int row) const
+    {
+        if (isNamed(row) && isHeader(row))
+            return rows[row] + u", Group"_s;
+        int position = 1;
+        int size = 0;
+        for (int i = 0; i < rows.size(); ++i) {
+            if (section[i] != section[row] || !isSelectable(i))
+                continue;
+            ++size;
+            position += i < row;
+        }
+        return u"%1 of %2"_s.arg(position).arg(size);
+    }
+    QVariantList next(int row, int step) const
+    {
+        for (int i = row + step; i >= 0 && i < rows.size(); i += step) {
+            if (isSelectable(i))
+                return {i, row < 0 || row >= rows.size() || section[i] != section[row]};
+        }
+        return {-1, false};
+    }
+
+    QString rows;
+    QList<int> starts;
+    QList<int> section;
+};
+
+void setUp(UTListData &data, const QVariant &model)
+{
+    data.setItemTypeRole(u"kind"_s);
+    data.setDisplayRole(u"name"_s);
+    data.setSectionRole(QVariantList{Group, Sign});
+    data.setUnSelectable(QVariantList{Group, Divider});
+    data.setModel(model);
+}
+
+} // namespace
+
+//! Groups, positions and words of lists.
+class tst_ListData : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { QTest::failOnWarning(QRegularExpression(u".?"_s)); }
+    void words_data();
+    void words();
+    void anyChange();
+    void models_data();
+    void models();
+    void trees();
+    void liars();
+    void signalOnlyForNews();
+
+private:
+    std::unique_ptr<QObject> create(const QString &members);
+
+    QQmlEngine m_engine;
+};
+
+std::unique_ptr<QObject> tst_ListData::create(const QString &members)
+{
+    QQmlComponent component(&m_engine);
+    component.setData(
+        u"import QtQml\nimport QtQml.Models\nimport UIToolkitQml 1.0\nimport UIToolkitQml_Private_Data 1.0\n"
+        "UTListData { id: data; %1 }"_s.arg(members)
+            .toUtf8(),
+        QUrl());
+    std::unique_ptr<QObject> object(component.create());
+    if (!object)
+        qWarning("%s", qPrintable(component.errorString()));
+    return object;
+}
+
+void tst_ListData::initTestCase()
+{
+    // The first import makes the data module known.
+    QQmlComponent component(&m_engine);
+    component.setData("import QtQml\nimport UIToolkitQml 1.0\nQtObject {}", QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+}
+
+void tst_ListData::words_data()
+{
+    QTest::addColumn<QString>("rows");
+    QTest::addColumn<int>("module");
+    QTest::addColumn<bool>("clear");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("description"); // of the last row
+    QTest::addColumn<QString>("explanation"); // with everything
+
+    const auto row = [](const char *rows, int module, bool clear, const char *list, const char *description,
+                        const char *explanation) {
+        QTest::addRow("\"%s\" in %d%s", rows, module, clear ? ", clear" : "")
+            << QString::fromLatin1(rows) << module << clear << QString::fromLatin1(list)
+            << QString::fromLatin1(description) << QString::fromLatin1(explanation);
+    };
+    row("", Default, false, "0 Items", "", "List, 0 Items, ");
+    row("-", Default, false, "1 Item", "1 of 1", "List, 1 Item, ");
+    row("-----", AddContact, false, "5 Items", "5 of 5", "List, 5 Items, ");
+    row("-", MeetingScheduler, false, "1 Item", "1 of 1", "1 Item, ");
+    row("--", MeetingScheduler, false, "2 Items", "2 of 2", "2 Items, ");
+    row("-------", Keyboardshortcuts, false, "7 Items", "", "Tree, 7 Items, ");
+    row("-", Keyboardshortcuts, false, "1 Item", "", "List, 1 Item, ");
+    row("A", Default, false, "1 Group", "A, Group", "List, 1 Group, A, Group");
+    row("A--|--", Default, false, "1 Group", "4 of 4", "List, 1 Group, A, Group");
+    row("s--", Default, false, "1 Group", "3 of 3", "List, 1 Group, s, Group");
+    row("--A-", Default, false, "2 Groups", "1 of 1", "List, 2 Groups, A, Group");
+    row("A-B-", MeetingScheduler, false, "2 Groups", "1 of 1", "2 Groups, B, Group");
+    row("#--", Default, false, "3 Items", "2 of 2", "List, 3 Items, ");
+    row("A-#-", Default, false, "2 Groups", "1 of 1", "List, 2 Groups, ");
+    row("---", Default, true, "", "", "");
+    row("A--", Default, true, "", "2 of 2", "A, Group");
+    row("A--", 99, false, "1 Group", "2 of 2", "List, 1 Group, A, Group");
+    row("-", CallingTransfer, false, "", "Phone number, list", "");
+    row("-A", CallingConference, false, "", "A, list", "");
+    row("A-", Calling, false, "", "", "");
+}
+
+void tst_ListData::words()
+{
+    QFETCH(QString, rows);
+    QFETCH(int, module);
+    QFETCH(bool, clear);
+    Rows model(rows);
+    UTListData data;
+    setUp(data, QVariant::fromValue(&model));
+    data.setSourceModule(module);
+    data.setIsClearMode(clear);
+    const int last = int(rows.size()) - 1;
+    QTEST(data.listDescription(), "list");
+    QTEST(data.itemDescription(last), "description");
+    QTEST(data.itemExplanation(last, true, true), "explanation");
+
+    // The hint is spoken once, by the first row of a group of phone numbers only.
+    const QHash<int, QString> hints = {
+        {Calling,
+         u"Use Enter to make an audio call, Use Tab for more options, Use Shift+F10 to open context menu on people list-items."_s},
+        {CallingTransfer, u"Use Tab for more options"_s},
+        {CallingConference, u"Use Enter to make an audio call, Use Tab for more options"_s}};
+    data.setShowFirstTime(true);
+    const QString first = data.itemDescription(0);
+    QCOMPARE(data.showFirstTime(), !hints.contains(module));
+    QCOMPARE(first,
+             data.itemDescription(0)
+                 + (hints.contains(module) ? u", Use up & down arrow to navigate, "_s + hints[module] : QString()));
+}
+
+void tst_ListData::anyChange()
+{
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
+    const auto below = [&](qsizetype limit) { return int(random.bounded(quint32(limit))); };
+    const auto someRows = [&](int count) {
+        QString rows;
+        while (rows.size() < count)
+            rows += u"---||ABs#"_s[below(9)];
+        return rows;
+    };
+    Rows model;
+    UTListData data;
+    setUp(data, QVariant::fromValue(&model));
+    for (int step = 0; step < 600; ++step) {
+        const int count = int(model.rows.size());
+        const int first = below(qMax(count, 1));
+        const int action = count == 0 ? 0 : below(15);
+        if (action < 3)
+            model.insert(below(count + 1), someRows(1 + below(6)));
+        else if (action < 6)
+            model.remove(first, 1 + below(qMin(count - first, 9)));
+        else if (action < 10)
+            model.move(first, 1 + below(count - first), below(count + 1));
+        else if (action < 14)
+            model.change(first, someRows(1)[0]);
+        else
+            model.reset(someRows(below(40)));
+        const Naive naive(model.rows);
+        const QByteArray where = "seed " + QByteArray::number(seed) + ", step " + QByteArray::number(step);
+        QVERIFY2(data.listDescription() == naive.list(), where);
+        for (int i = -1; i <= model.rows.size(); ++i) {
+            const bool exists = i >= 0 && i < model.rows.size();
+            data.setCurrentIndex(i);
+            QVERIFY2(data.itemDescription(i) == (exists ? naive.description(i) : QString()), where);
+            QVERIFY2(data.itemSelective(i) == (exists && naive.isSelectable(i)), where);
+            QVERIFY2(data.nextSelectable(true) == naive.next(i, 1), where);
+            QVERIFY2(data.nextSelectable(false) == naive.next(i, -1), where);
+        }
+    }
+}
+
+void tst_ListData::models_data()
+{
+    QTest::addColumn<QString>("members");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("description"); // of row 1
+
+    const auto row = [](const char *name, const QString &members, const char *list, const char *description) {
+        QTest::newRow(name) << members << QString::fromLatin1(list) << QString::fromLatin1(description);
+    };
+    const QString elements = u"ListElement { isSection: true; sectionName: 'A' } ListElement { isSection: false }"_s;
+    row("nothing", {}, "0 Items", "");
+    row("null", u"model: null"_s, "0 Items", "");
+    row("list model", u"model: ListModel { %1 }"_s.arg(elements), "1 Group", "1 of 1");
+    row("filled late",
+        u"property var m: ListModel {} model: m; Component.onCompleted: { m.append({ label: 'x' });"
+        " m.append({ isSection: true, sectionName: 'A' }) }"_s,
+        "2 Groups", "A, Group");
+    row("delegate model", u"model: DelegateModel { model: ListModel { %1 } }"_s.arg(elements), "1 Group", "1 of 1");
+    row("object model",
+        u"model: ObjectModel { QtObject {} QtObject { property bool isSection: true; property string sectionName: 'A' } }"_s,
+        "2 Groups", "A, Group");
+    row("array of objects", u"model: [{ isSection: true, sectionName: 'A' }, { isSection: false }, null]"_s, "1 Group",
+        "1 of 2");
+    row("array of items",
+        u"model: [o, o]; property QtObject o: QtObject { property int isSection: 1; property string sectionName: 'A' }"_s,
+        "2 Groups", "A, Group");
+    row("list of items",
+        u"model: l; property list<QtObject> l: [QtObject { property bool isSection: true }, QtObject {}]"_s, "2 Items",
+        "1 of 1");
+    row("values",
+        u"model: ['a', 'b', 'A']; itemTypeRole: 'modelData'; displayRole: 'modelData'; sectionRole: ['b']; unSelectable: 'a'"_s,
+        "2 Groups", "b, Group");
+    row("number", u"model: 3"_s, "3 Items", "2 of 3");
+    row("fraction", u"model: 2.9"_s, "2 Items", "2 of 2");
+    row("negative", u"model: -3"_s, "0 Items", "");
+    row("not a number", u"model: NaN"_s, "0 Items", "");
+    row("endless", u"model: Infinity"_s, "2147483647 Items", "2 of 2147483647");
+    row("one object", u"model: ({ isSection: true, sectionName: 'A' })"_s, "1 Group", "");
+    row("text", u"model: 'abc'"_s, "1 Item", "");
+    row("hole", u"model: { const a = []; a[1] = { isSection: true, sectionName: 'A' }; return a }"_s, "2 Groups",
+        "A, Group");
+}
+
+void tst_ListData::models()
+{
+    QFETCH(QString, members);
+    const std::unique_ptr<QObject> data = create(members);
+    QVERIFY(data);
+    QTEST(data->property("listDescription").toString(), "list");
+    QString description;
+    QVERIFY(
+        QMetaObject::invokeMethod(data.get(), "itemDescription", Q_RETURN_ARG(QString, description), Q_ARG(int, 1)));
+    QTEST(description, "description");
+}
+
+void tst_ListData::trees()
+{
+    auto gone = std::make_unique<QObject>();
+    QObject header;
+    header.setProperty("isGroupHeader", true);
+    QStandardItemModel itemModel(5, 1);
+    UTListData data;
+    data.setSourceModule(Keyboardshortcuts);
+    data.setModel(QVariantList{QVariant::fromValue(&header), QVariantMap{{u"isGroupHeader"_s, false}},
+                               QVariant::fromValue(gone.get()), 7});
+    gone.reset();
+    QStringList texts;
+    for (int row = -1; row < 5; ++row)
+        texts << data.itemDescription(row);
+    QCOMPARE(texts, QStringList({{}, u"tree item, Level 1"_s, u"tree item, Level 2"_s, {}, {}, {}}));
+    data.setModel(QVariant::fromValue(&itemModel));
+    QCOMPARE(data.itemDescription(0), QString());
+}
+
+void tst_ListData::liars()
+{
+    UTListData data;
+    auto model = std::make_unique<Rows>(u"A--B-"_s);
+    setUp(data, QVariant::fromValue(model.get()));
+    const int wild[] = {std::numeric_limits<int>::min(), -2, -1, 5, 1000, std::numeric_limits<int>::max()};
+    // Signals about rows that do not exist, and rows that come without one.
+    for (const int row : wild) {
+        model->lie();
+        QCOMPARE(data.listDescription(), u"2 Groups"_s);
+        data.setCurrentIndex(row);
+        QVERIFY(!data.itemSelective(row) && data.itemDescription(row).isEmpty());
+        QCOMPARE(data.itemExplanation(row, false, true), QString());
+        data.nextSelectable(true);
+        data.nextSelectable(false);
+    }
+    model->rows = u"-A-"_s;
+    Q_EMIT model->dataChanged(model->index(1), model->index(1));
+    QCOMPARE(data.itemDescription(1), u"A, Group"_s);
+    model->surplus = 2;
+    Q_EMIT model->layoutChanged();
+    QCOMPARE(data.itemDescription(4), u"3 of 3"_s);
+    model->surplus = -100;
+    Q_EMIT model->layoutChanged();
+    QCOMPARE(data.listDescription(), u"0 Items"_s);
+    data.setItemTypeRole(u"no such role"_s);
+    model->surplus = 0;
+    model.reset();
+    QCOMPARE(data.listDescription(), u"0 Items"_s);
+    QVERIFY(!data.model().isValid());
+    QCOMPARE(data.nextSelectable(true), QVariantList({-1, false}));
+}
+
+void tst_ListData::signalOnlyForNews()
+{
+    Rows model(u"A--"_s);
+    UTListData data;
+    setUp(data, QVariant::fromValue(&model));
+    const QSignalSpy news(&data, &UTListData::listDescritpionChanged);
+    model.insert(1, u"--"_s);
+    data.setCurrentIndex(2);
+    data.setShowFirstTime(true);
+    QCOMPARE(news.count(), 0);
+    model.insert(1, u"B"_s);
+    QCOMPARE(news.count(), 1);
+    data.classBegin();
+    model.reset({});
+    QCOMPARE(data.listDescription(), u"2 Groups"_s);
+    data.componentComplete();
+    QCOMPARE(data.listDescription(), u"0 Items"_s);
+    QCOMPARE(news.count(), 2);
+}
+
+QTEST_MAIN(tst_ListData)
+#include "tst_listdata.moc"

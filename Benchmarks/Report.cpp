@@ -173,6 +173,7 @@ QString Report::toText(const Results &results)
     text += figuresTable(u"Change of theme"_s, results.theme);
     text += figuresTable(u"Reading a colour set"_s, results.calls);
     text += figuresTable(u"Long lists"_s, results.lists);
+    text += figuresTable(u"The compose area"_s, results.richText);
     text += figuresTable(u"Loading, all threads, in a process of its own"_s, results.load);
     text += namesWithReasons(u"skipped"_s, results.skipped);
     text += namesWithReasons(u"FAILED"_s, results.failed);
@@ -194,6 +195,7 @@ QJsonObject Report::toJson(const Results &results)
             {u"theme"_s, ::toJson(results.theme)},
             {u"calls"_s, ::toJson(results.calls)},
             {u"lists"_s, ::toJson(results.lists)},
+            {u"richText"_s, ::toJson(results.richText)},
             {u"load"_s, ::toJson(results.load)},
             {u"skipped"_s, ::toJson(results.skipped)},
             {u"failed"_s, ::toJson(results.failed)}};

@@ -62,6 +62,7 @@ struct Results
     QList<Subjects::Skipped> failed;
     QList<Figure> theme;
     QList<Figure> calls;
+    QList<Figure> richText;
     QList<Figure> load;
     QList<Figure> lists;
     int rounds = 0;

@@ -5,6 +5,7 @@
 #include "LoadBench.h"
 #include "ObjectCounter.h"
 #include "Report.h"
+#include "RichTextBench.h"
 #include "Subjects.h"
 #include "ThemeBench.h"
 
@@ -168,6 +169,7 @@ int main(int argc, char *argv[])
         InstanceStage stage(&engine);
         InstanceBench(stage, subjects.list).run(results);
         ThemeBench::run(stage, results);
+        RichTextBench::run(stage, results);
     }
     ListBench::run(&engine, results);
     LoadBench::run(results);

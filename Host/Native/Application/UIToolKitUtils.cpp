@@ -62,6 +62,11 @@ UIToolKitUtils *UIToolKitUtils::instance()
     return applicationObject<UIToolKitUtils>();
 }
 
+QString UIToolKitUtils::mentionLink()
+{
+    return u"https://mention.invalid/"_s;
+}
+
 UIToolKitUtils::UIToolKitUtils(QObject *parent)
     : QObject(parent)
     , m_linkSchemes{u"http"_s, u"https"_s, u"mailto"_s, u"tel"_s}

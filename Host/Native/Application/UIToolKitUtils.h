@@ -15,9 +15,13 @@ class QWindow;
 class KORVUUI_EXPORT UIToolKitUtils : public QObject
 {
     Q_OBJECT
+    //! The target of links that mention somebody: the compose area shows their text as a mention, without a link. An
+    //! address that is never valid.
+    Q_PROPERTY(QString mentionLink READ mentionLink CONSTANT FINAL)
 
 public:
     static UIToolKitUtils *instance();
+    static QString mentionLink();
 
     //! Always true.
     Q_INVOKABLE bool isQt6Used() const { return true; }
@@ -54,6 +58,9 @@ public:
 
     //! Lets openLink open links of one more \a scheme, as "sip".
     Q_INVOKABLE void addLinkScheme(const QString &scheme);
+
+    //! The schemes of links that are opened, and that text from elsewhere may have, in lower case.
+    const QStringList &linkSchemes() const { return m_linkSchemes; }
 
 Q_SIGNALS:
     //! \a text was spoken on behalf of \a item, or would have been if a screen reader were there.

@@ -19,7 +19,7 @@ enum class PieceKind {
     Unended, //!< markup that never ends, and all that follows it: a reader sees it as text
 };
 
-struct Piece
+struct KORVUUI_EXPORT Piece
 {
     PieceKind kind = PieceKind::Text;
     QStringView source; //!< the piece as it stands in the text; all pieces in order give the text again

@@ -23,6 +23,7 @@
 #include "UTPopOverData.h"
 #include "UTPopOverEnum.h"
 #include "UTPopupEnum.h"
+#include "UTRichTextAreaData.h"
 #include "UTShortcutOverride.h"
 #include "UTTextButtonEnum.h"
 #include "UTTooltipEnum.h"
@@ -72,7 +73,7 @@ void DataRegistration::registerAll(const char *uri)
     registerAttached<AwaitedData>("UTBlockButtonData");
     registerAttached<UTColorSetData>("UTColorSetData");
     registerAttached<AwaitedData>("UTWatermarkData");
-    registerAttached<AwaitedData>("UTRichTextAreaData");
+    registerAttached<UTRichTextAreaData>("UTRichTextAreaData");
     registerAttached<AwaitedData>("UTToolTipData");
     registerAttached<AwaitedData>("UTDynamicResourceData");
     registerAttached<UTKeyEventData>("UTKeyEventData");

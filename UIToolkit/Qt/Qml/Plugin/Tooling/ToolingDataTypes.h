@@ -10,6 +10,7 @@
 #include "UTListData.h"
 #include "UTPillButtonData.h"
 #include "UTPopOverData.h"
+#include "UTRichTextAreaData.h"
 #include "UTShortcutOverride.h"
 
 #include <QtQml/qqml.h>
@@ -71,6 +72,15 @@ struct UTPillButtonDataTooling
     QML_NAMED_ELEMENT(UTPillButtonData)
     QML_ATTACHED(UTPillButtonData)
     QML_UNCREATABLE("UTPillButtonData attached property.")
+};
+
+struct UTRichTextAreaDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTRichTextAreaData)
+    QML_NAMED_ELEMENT(UTRichTextAreaData)
+    QML_ATTACHED(UTRichTextAreaData)
+    QML_UNCREATABLE("UTRichTextAreaData attached property.")
 };
 
 struct UTShortcutOverrideTooling

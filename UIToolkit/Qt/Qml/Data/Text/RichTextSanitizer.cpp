@@ -1,0 +1,124 @@
+#include "RichTextSanitizer.h"
+
+#include "RichTextFormat.h"
+
+#include <QStringBuilder>
+#include <QTextFragment>
+#include <QTextFrame>
+#include <QTextList>
+#include <UIToolKitUtils.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Copier
+{
+public:
+    Copier(QTextDocument *target, const QColor &linkColor)
+        : m_cursor(target)
+        , m_linkColor(linkColor)
+        , m_mentionLink(UIToolKitUtils::mentionLink())
+    {
+    }
+
+    void copyFrame(const QTextFrame *frame)
+    {
+        for (auto it = frame->begin(); !it.atEnd(); ++it) {
+            if (const QTextFrame *child = it.currentFrame())
+                copyFrame(child);
+            else if (it.currentBlock().isValid())
+                copyBlock(it.currentBlock());
+        }
+    }
+
+private:
+    void copyBlock(const QTextBlock &source)
+    {
+        m_cursor.movePosition(QTextCursor::End);
+        if (!m_cursor.document()->isEmpty())
+            m_cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
+        else if (QTextList *list = m_cursor.currentList()) // of an empty block, whose place this one takes
+            list->remove(m_cursor.block());
+        const int level = source.blockFormat().headingLevel();
+        m_cursor.block().setUserState(RichText::isHeadingLevel(level) ? level : -1);
+        if (source.textList())
+            m_cursor.createList(RichText::bulletStyle);
+        for (auto it = source.begin(); !it.atEnd(); ++it)
+            m_cursor.insertText(it.fragment().text(), supportedFormat(it.fragment().charFormat()));
+    }
+
+    QTextCharFormat supportedFormat(const QTextCharFormat &source) const
+    {
+        QTextCharFormat format;
+        if (source.isAnchor() && source.anchorHref() == m_mentionLink) {
+            format.setFontWeight(RichText::boldWeight);
+            format.setForeground(m_linkColor);
+            format.setProperty(QTextFormat::UserProperty, QString(RichText::mentionMarker));
+            return format;
+        }
+        format.setFontWeight(RichText::isBold(source) ? RichText::boldWeight : RichText::normalWeight);
+        format.setFontItalic(source.fontItalic());
+        const bool isUnderlined = source.fontUnderline() || source.isAnchor();
+        format.setUnderlineStyle(isUnderlined ? QTextCharFormat::SingleUnderline : QTextCharFormat::NoUnderline);
+        if (source.isAnchor()) {
+            format.setAnchor(true);
+            format.setAnchorHref(source.anchorHref());
+        }
+        if (source.property(QTextFormat::UserProperty).toString() == RichText::mentionMarker) {
+            format.setProperty(QTextFormat::UserProperty, QString(RichText::mentionMarker));
+            format.setForeground(source.foreground());
+        }
+        return format;
+    }
+
+    QTextCursor m_cursor;
+    QColor m_linkColor;
+    QString m_mentionLink;
+};
+
+QString toInsertableHtml(const QTextDocument &document)
+{
+    // The elements "html" and "body" would give every paragraph a fixed direction, and every letter a fixed font that
+    // follows no change of the text's own.
+    static const QString head =
+        u"<meta name=\"qrichtext\" content=\"1\" /><style type=\"text/css\">p, li { white-space: pre-wrap; }</style>"_s;
+    const QString html = document.toHtml();
+    const qsizetype bodyTag = html.indexOf("<body"_L1);
+    const qsizetype start = html.indexOf(u'>', bodyTag) + 1;
+    const qsizetype end = html.lastIndexOf("</body>"_L1);
+    QString result = head % QStringView(html).sliced(start, end - start);
+    for (QLatin1StringView tag : {"<p"_L1, "<li"_L1})
+        result.replace(QString(tag % " dir='rtl'"_L1), tag);
+    return result;
+}
+
+} // namespace
+
+std::unique_ptr<QTextDocument> RichTextSanitizer::sanitized(const QTextDocument &source, const QFont &defaultFont,
+                                                            const QColor &linkColor)
+{
+    auto target = std::make_unique<QTextDocument>();
+    target->setUndoRedoEnabled(false);
+    target->setDefaultFont(defaultFont);
+    Copier(target.get(), linkColor).copyFrame(source.rootFrame());
+    return target;
+}
+
+void RichTextSanitizer::insert(const QTextDocument &document, QTextCursor &cursor)
+{
+    // An empty paragraph in HTML would be one more than there was.
+    if (!document.isEmpty())
+        cursor.insertHtml(toInsertableHtml(document));
+}
+
+void RichTextSanitizer::removeSelection(QTextCursor &cursor)
+{
+    cursor.removeSelectedText();
+    if (!cursor.document()->isEmpty())
+        return;
+    // Of all that was there a paragraph is left, which would make the last of the new ones look like itself.
+    if (QTextList *list = cursor.currentList())
+        list->remove(cursor.block());
+    cursor.setBlockFormat(QTextBlockFormat());
+}

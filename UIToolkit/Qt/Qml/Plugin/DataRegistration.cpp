@@ -16,6 +16,7 @@
 #include "UTIndentationBarEnum.h"
 #include "UTIndicatorBadgeEnum.h"
 #include "UTKeyEventData.h"
+#include "UTLinkData.h"
 #include "UTListAvatarSearchItem.h"
 #include "UTListData.h"
 #include "UTMenuEnum.h"
@@ -83,7 +84,7 @@ void DataRegistration::registerAll(const char *uri)
 
     qmlRegisterType<UTEventData>(dataUri, 1, 0, "UTEventData");
     qmlRegisterType<UTListData>(dataUri, 1, 0, "UTListData");
-    AwaitedData::registerCreatable(dataUri, "UTLinkData");
+    qmlRegisterType<UTLinkData>(dataUri, 1, 0, "UTLinkData");
 
     qmlRegisterType<QMovie>(uri, 1, 0, "KMovie");
 

@@ -7,6 +7,7 @@
 #include "UTEventData.h"
 #include "UTEventFilterData.h"
 #include "UTKeyEventData.h"
+#include "UTLinkData.h"
 #include "UTListData.h"
 #include "UTPillButtonData.h"
 #include "UTPopOverData.h"
@@ -56,6 +57,13 @@ struct UTKeyEventDataTooling
     QML_NAMED_ELEMENT(UTKeyEventData)
     QML_ATTACHED(UTKeyEventData)
     QML_UNCREATABLE("UTKeyEventData attached property.")
+};
+
+struct UTLinkDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTLinkData)
+    QML_NAMED_ELEMENT(UTLinkData)
 };
 
 struct UTListDataTooling

@@ -13,6 +13,7 @@
 #include "KKeyEvent.h"
 #include "KKeySequence.h"
 #include "ThemeManager.h"
+#include "ToolTipWindowManager.h"
 #include "UIToolKitUtils.h"
 #include "Utils.h"
 
@@ -73,6 +74,17 @@ struct UIToolKitUtilsType
 
 public:
     static UIToolKitUtils *create(QQmlEngine *, QJSEngine *) { return sharedInstance<UIToolKitUtils>(); }
+};
+
+struct ToolTipWindowManagerType
+{
+    Q_GADGET
+    QML_FOREIGN(ToolTipWindowManager)
+    QML_NAMED_ELEMENT(ToolTipWindowManager)
+    QML_SINGLETON
+
+public:
+    static ToolTipWindowManager *create(QQmlEngine *, QJSEngine *) { return sharedInstance<ToolTipWindowManager>(); }
 };
 
 struct KKeyEventType

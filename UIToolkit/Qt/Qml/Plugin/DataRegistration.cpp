@@ -27,6 +27,7 @@
 #include "UTRichTextAreaData.h"
 #include "UTShortcutOverride.h"
 #include "UTTextButtonEnum.h"
+#include "UTToolTipData.h"
 #include "UTTooltipEnum.h"
 #include "UTWatermarkEnum.h"
 
@@ -75,7 +76,7 @@ void DataRegistration::registerAll(const char *uri)
     registerAttached<UTColorSetData>("UTColorSetData");
     registerAttached<AwaitedData>("UTWatermarkData");
     registerAttached<UTRichTextAreaData>("UTRichTextAreaData");
-    registerAttached<AwaitedData>("UTToolTipData");
+    registerAttached<UTToolTipData>("UTToolTipData");
     registerAttached<AwaitedData>("UTDynamicResourceData");
     registerAttached<UTKeyEventData>("UTKeyEventData");
     registerAttached<UTEventFilterData>("UTEventFilterData");

@@ -13,6 +13,7 @@
 #include "UTPopOverData.h"
 #include "UTRichTextAreaData.h"
 #include "UTShortcutOverride.h"
+#include "UTToolTipData.h"
 
 #include <QtQml/qqml.h>
 
@@ -107,4 +108,13 @@ struct UTPopOverDataTooling
     QML_NAMED_ELEMENT(UTPopOverData)
     QML_ATTACHED(UTPopOverData)
     QML_UNCREATABLE("UTPopOverData attached property.")
+};
+
+struct UTToolTipDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTToolTipData)
+    QML_NAMED_ELEMENT(UTToolTipData)
+    QML_ATTACHED(UTToolTipData)
+    QML_UNCREATABLE("UTToolTipData attached property.")
 };

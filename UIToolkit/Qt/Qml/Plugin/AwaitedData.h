@@ -17,9 +17,6 @@ public:
     using QObject::QObject;
 
     static AwaitedData *qmlAttachedProperties(QObject *attachee);
-
-    //! Registers \a name so that creating it fails with a message that names it.
-    static void registerCreatable(const char *uri, const char *name);
 };
 
 QML_DECLARE_TYPEINFO(AwaitedData, QML_HAS_ATTACHED_PROPERTIES)

@@ -37,13 +37,16 @@ KBalloon {
 
         x: control.arrowAnchor === UTTooltipEnum.Left ? control.arrowSize : 0
         y: control.arrowAnchor === UTTooltipEnum.Top ? control.arrowSize : 0
-        implicitWidth: text.width + 2 * control.textMargin
+        implicitWidth: text.lineWidth + 2 * control.textMargin
         implicitHeight: text.height + 2 * control.textMargin
 
         KText {
             id: text
 
-            x: control.textMargin
+            // Of the longest line; a text of several lines takes more for itself.
+            readonly property real lineWidth: Math.min(width, contentWidth)
+
+            x: control.textMargin - (effectiveHorizontalAlignment === Text.AlignRight ? width - lineWidth : 0)
             y: control.textMargin
             width: Math.min(implicitWidth, control.maximumWidth - priv.spareWidth)
             leftPadding: 0

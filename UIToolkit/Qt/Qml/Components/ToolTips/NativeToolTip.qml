@@ -16,7 +16,7 @@ KFrame {
     //! Below 1 there is no limit.
     property int maximumLineCount: 3
 
-    width: Math.max(text.width + 2 * priv.horizontalMargin, priv.minimumSize)
+    width: Math.max(text.lineWidth + 2 * priv.horizontalMargin, priv.minimumSize)
     height: Math.max(text.height + 2 * priv.verticalMargin, priv.minimumSize)
     backgroundColorSetName: "panel-tertiary-background"
     borderColorSetName: "modal-primary-border"
@@ -24,7 +24,10 @@ KFrame {
     KText {
         id: text
 
-        x: priv.horizontalMargin
+        // Of the longest line; a text of several lines takes more for itself.
+        readonly property real lineWidth: Math.min(width, contentWidth)
+
+        x: priv.horizontalMargin - (effectiveHorizontalAlignment === Text.AlignRight ? width - lineWidth : 0)
         y: priv.verticalMargin
         width: Math.min(implicitWidth, control.maximumWidth)
         leftPadding: 0

@@ -1,5 +1,7 @@
 #include "ColorGroup.h"
 
+#include <KThemeUtils.h>
+
 ColorGroup::ColorGroup(QObject *parent, std::initializer_list<Slot> existing)
     : KObject(parent)
 {
@@ -35,6 +37,21 @@ void ColorGroup::setEventData(UTEventData *eventData)
         disconnect(m_eventData, nullptr, this, nullptr);
     m_eventData = eventData;
     Q_EMIT eventDataChanged();
+}
+
+void ColorGroup::setToken(Slot slot, void (UTColorData::*setter)(const QString &), const QString &token)
+{
+    if (UTColorData *color = colorData(slot))
+        (color->*setter)(token);
+}
+
+bool ColorGroup::isHighContrast()
+{
+    if (!m_highContrastAsked) {
+        m_highContrast = KThemeUtils::isHighContrastEnabled();
+        m_highContrastAsked = true;
+    }
+    return m_highContrast;
 }
 
 void ColorGroup::passOnEventData()

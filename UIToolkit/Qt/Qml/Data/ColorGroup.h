@@ -51,6 +51,12 @@ protected:
     //! The colour, or null after a warning.
     UTColorData *colorData(Slot slot) const;
 
+    //! Gives \a token to the colour by \a setter, if there is that colour.
+    void setToken(Slot slot, void (UTColorData::*setter)(const QString &), const QString &token);
+
+    //! Whether high contrast was on when first asked. A change of the setting reaches the objects made after it.
+    bool isHighContrast();
+
 private:
     void passOnEventData();
     void updateColors();
@@ -58,4 +64,6 @@ private:
     QString m_themeType;
     QPointer<UTEventData> m_eventData;
     UTColorData *m_colors[SlotCount] = {};
+    bool m_highContrast = false;
+    bool m_highContrastAsked = false;
 };

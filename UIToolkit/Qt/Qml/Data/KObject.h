@@ -12,4 +12,15 @@ public:
         : QObject(parent)
     {
     }
+
+protected:
+    //! Stores \a value in \a member and emits \a changed, if it differs.
+    template<typename Class, typename T>
+    void set(T &member, const T &value, void (Class::*changed)())
+    {
+        if (member == value)
+            return;
+        member = value;
+        Q_EMIT(static_cast<Class *>(this)->*changed)();
+    }
 };

@@ -2,10 +2,12 @@
 
 #include "AwaitedData.h"
 #include "UTAlertBannerEnum.h"
+#include "UTBlockButtonData.h"
 #include "UTButtonSize.h"
 #include "UTButtonStyle.h"
 #include "UTButtonType.h"
 #include "UTCallControlButtonEnum.h"
+#include "UTChipData.h"
 #include "UTChipStyle.h"
 #include "UTColorData.h"
 #include "UTColorSetData.h"
@@ -13,6 +15,7 @@
 #include "UTDynamicResource.h"
 #include "UTEventData.h"
 #include "UTEventFilterData.h"
+#include "UTIconButtonData.h"
 #include "UTIndentationBarEnum.h"
 #include "UTIndicatorBadgeEnum.h"
 #include "UTKeyEventData.h"
@@ -20,12 +23,16 @@
 #include "UTListAvatarSearchItem.h"
 #include "UTListData.h"
 #include "UTMenuEnum.h"
+#include "UTMultilinePillButtonData.h"
 #include "UTPillButtonData.h"
 #include "UTPopOverData.h"
 #include "UTPopOverEnum.h"
 #include "UTPopupEnum.h"
+#include "UTRectangleButtonData.h"
 #include "UTRichTextAreaData.h"
+#include "UTRoundButtonData.h"
 #include "UTShortcutOverride.h"
+#include "UTTextButtonData.h"
 #include "UTTextButtonEnum.h"
 #include "UTToolTipData.h"
 #include "UTTooltipEnum.h"
@@ -64,15 +71,15 @@ void registerMetaTypes()
 void DataRegistration::registerAll(const char *uri)
 {
     registerAttached<UTPillButtonData>("UTPillButtonData");
-    registerAttached<AwaitedData>("UTTextButtonData");
-    registerAttached<AwaitedData>("UTMultilinePillButtonData");
-    registerAttached<AwaitedData>("UTRectangleButtonData");
-    registerAttached<AwaitedData>("UTRoundButtonData");
-    registerAttached<AwaitedData>("UTIconButtonData");
-    registerAttached<AwaitedData>("UTChipData");
+    registerAttached<UTTextButtonData>("UTTextButtonData");
+    registerAttached<UTMultilinePillButtonData>("UTMultilinePillButtonData");
+    registerAttached<UTRectangleButtonData>("UTRectangleButtonData");
+    registerAttached<UTRoundButtonData>("UTRoundButtonData");
+    registerAttached<UTIconButtonData>("UTIconButtonData");
+    registerAttached<UTChipData>("UTChipData");
     registerAttached<UTPopOverData>("UTPopOverData");
     registerAttached<AwaitedData>("UTCallControlButtonData");
-    registerAttached<AwaitedData>("UTBlockButtonData");
+    registerAttached<UTBlockButtonData>("UTBlockButtonData");
     registerAttached<UTColorSetData>("UTColorSetData");
     registerAttached<AwaitedData>("UTWatermarkData");
     registerAttached<UTRichTextAreaData>("UTRichTextAreaData");

@@ -9,11 +9,14 @@
 function needPart(control, name, type, settings, parent) {
     const parts = control.parts ?? (control.parts = {});
     if (!parts[name]) {
-        for (const key in settings) {
-            if (typeof settings[key] === "function")
-                settings[key] = Qt.binding(settings[key]);
-        }
-        parts[name] = Qt.createComponent("qrc:/qt/qml/UIToolkitQml/%1.qml".arg(type)).createObject(parent, settings);
+        // Bindings come after: at creation, an untyped property would take the function itself for its value.
+        const functions = Object.keys(settings).filter(key => typeof settings[key] === "function");
+        const values = Object.assign({}, settings);
+        for (const key of functions)
+            values[key] = settings[key]();
+        parts[name] = Qt.createComponent("qrc:/qt/qml/UIToolkitQml/%1.qml".arg(type)).createObject(parent, values);
+        for (const key of functions)
+            parts[name][key] = Qt.binding(settings[key]);
     }
     return parts[name];
 }
@@ -65,4 +68,18 @@ function arrangePill(control, label) {
 function rearrangePill(control) {
     if (control.implicitWidth > 0)
         arrangePill(control, control.contentItem);
+}
+
+// Gives the label of a multiline pill the name of the line and the icon that the pill asks for, and the room for them.
+function arrangeLine(control, label) {
+    const designator = control.shouldDisplayLineDesignator
+        ? needPart(control, "designator", "LineDesignator", { control: control }, label) : null;
+    const icon = control.rightIcon.length > 0 ? needPart(control, "icon", "LineIcon", { control: control }, label) : null;
+    label.leftPadding = Qt.binding(() => (control.mirrored ? icon : designator)?.room ?? 0);
+    label.rightPadding = Qt.binding(() => (control.mirrored ? designator : icon)?.room ?? 0);
+}
+
+function rearrangeLine(control) {
+    if (control.implicitWidth > 0)
+        arrangeLine(control, control.contentItem);
 }

@@ -4,7 +4,6 @@
 #include "ComponentName.h"
 
 #include <App.h>
-#include <KThemeUtils.h>
 
 #include <array>
 
@@ -80,7 +79,7 @@ StyleColors highContrastColorsOf(UTButtonStyle::Style style, bool checked)
 } // namespace
 
 IUTButtonData::IUTButtonData(QObject *attachee, const char *component)
-    : ColorGroup(attachee, {Background, Border, Text, Icon, RightIcon})
+    : BoxData(attachee, {Background, Border, Text, Icon, RightIcon})
 {
     for (auto input : {&IUTButtonData::styleChanged, &IUTButtonData::sizeChanged,
                        &IUTButtonData::iconColorSetNameChanged, &IUTButtonData::rightIconColorSetNameChanged})
@@ -99,15 +98,10 @@ void IUTButtonData::refresh()
 
 void IUTButtonData::updateTokens()
 {
-    // Asked once; a change of the setting reaches the buttons made after it.
-    if (!m_highContrastAsked) {
-        m_highContrast = KThemeUtils::isHighContrastEnabled();
-        m_highContrastAsked = true;
-    }
     const StyleColors colors =
-        m_highContrast ? highContrastColorsOf(m_style, eventData() && eventData()->checked()) : colorsOf(m_style);
+        isHighContrast() ? highContrastColorsOf(m_style, eventData() && eventData()->checked()) : colorsOf(m_style);
     // A colour of the application's own has no place in high contrast.
-    const bool customized = m_style == UTButtonStyle::Customized && !m_highContrast;
+    const bool customized = m_style == UTButtonStyle::Customized && !isHighContrast();
 
     const QString text = customized ? m_iconColorCustomized : ColorTokens::name(colors.text);
     const QString icon = m_iconColorSetName.isEmpty() ? text : m_iconColorSetName;
@@ -126,12 +120,6 @@ void IUTButtonData::updateTokens()
     setToken(Border, &UTColorData::setActiveToken, ColorTokens::name(colors.activeBorder));
 
     setBorder(colors.border == None ? 0 : 1);
-}
-
-void IUTButtonData::setToken(Slot slot, void (UTColorData::*setter)(const QString &), const QString &token)
-{
-    if (UTColorData *color = colorData(slot))
-        (color->*setter)(token);
 }
 
 void IUTButtonData::setColor(Slot slot, bool customized, const QString &colorOrToken)

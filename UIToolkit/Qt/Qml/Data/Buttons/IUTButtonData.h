@@ -1,10 +1,8 @@
 #pragma once
 
-#include "ColorGroup.h"
+#include "BoxData.h"
 #include "UTButtonSize.h"
 #include "UTButtonStyle.h"
-
-#include <QSize>
 
 /*!
  * The base of the data objects that turn a button's style, size and state into colours and metrics.
@@ -12,7 +10,7 @@
  * The colour step is the same for all of them; each subclass adds the metrics of its sizes. An object
  * on any other component than its own stays inert: its outputs keep their first values.
  */
-class IUTButtonData : public ColorGroup
+class IUTButtonData : public BoxData
 {
     Q_OBJECT
     //! Button style, None by default. An unknown number has no colours.
@@ -25,28 +23,19 @@ class IUTButtonData : public ColorGroup
     //! Colour set of the right icon in place of the icon's; empty (the default) for the icon's.
     Q_PROPERTY(QString rightIconColorSetName READ rightIconColorSetName WRITE setRightIconColorSetName NOTIFY
                    rightIconColorSetNameChanged FINAL)
-    //! Box of an icon in pixels.
-    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize NOTIFY iconSizeChanged FINAL)
     //! The colour, as text, of label and icons in the style Customized. Takes effect with the next refresh.
     Q_PROPERTY(QString iconColorCustomized READ iconColorCustomized WRITE setIconColorCustomized NOTIFY
                    iconColorCustomizedChanged FINAL)
     //! Height of the button in pixels.
     Q_PROPERTY(int height READ height WRITE setHeight NOTIFY heightChanged FINAL)
-    //! Width of the border in pixels: 1 where the style has a border colour, else 0.
-    Q_PROPERTY(int border READ border WRITE setBorder NOTIFY borderChanged FINAL)
-    //! Radius of the corners in pixels.
-    Q_PROPERTY(int radius READ radius WRITE setRadius NOTIFY radiusChanged FINAL)
 
 public:
     UTButtonStyle::Style style() const { return m_style; }
     UTButtonSize::Size size() const { return m_size; }
     QString iconColorSetName() const { return m_iconColorSetName; }
     QString rightIconColorSetName() const { return m_rightIconColorSetName; }
-    QSize iconSize() const { return m_iconSize; }
     QString iconColorCustomized() const { return m_iconColorCustomized; }
     int height() const { return m_height; }
-    int border() const { return m_border; }
-    int radius() const { return m_radius; }
 
     void setStyle(UTButtonStyle::Style style) { set(m_style, style, &IUTButtonData::styleChanged); }
     void setSize(UTButtonSize::Size size) { set(m_size, size, &IUTButtonData::sizeChanged); }
@@ -58,14 +47,11 @@ public:
     {
         set(m_rightIconColorSetName, name, &IUTButtonData::rightIconColorSetNameChanged);
     }
-    void setIconSize(const QSize &size) { set(m_iconSize, size, &IUTButtonData::iconSizeChanged); }
     void setIconColorCustomized(const QString &color)
     {
         set(m_iconColorCustomized, color, &IUTButtonData::iconColorCustomizedChanged);
     }
     void setHeight(int height) { set(m_height, height, &IUTButtonData::heightChanged); }
-    void setBorder(int border) { set(m_border, border, &IUTButtonData::borderChanged); }
-    void setRadius(int radius) { set(m_radius, radius, &IUTButtonData::radiusChanged); }
 
 public Q_SLOTS:
     //! Recomputes all outputs.
@@ -76,11 +62,8 @@ Q_SIGNALS:
     void sizeChanged();
     void iconColorSetNameChanged();
     void rightIconColorSetNameChanged();
-    void iconSizeChanged();
     void iconColorCustomizedChanged();
     void heightChanged();
-    void borderChanged();
-    void radiusChanged();
     //! The inputs changed, the outputs are out of date.
     void buttonDataChanged();
 
@@ -91,31 +74,15 @@ protected:
     //! Sets the metrics of size().
     virtual void updateSize() = 0;
 
-    //! Stores \a value in \a member and signals it, if it differs.
-    template<typename Class, typename T>
-    void set(T &member, const T &value, void (Class::*changed)())
-    {
-        if (member == value)
-            return;
-        member = value;
-        Q_EMIT(static_cast<Class *>(this)->*changed)();
-    }
-
 private:
     void updateTokens();
-    void setToken(Slot slot, void (UTColorData::*setter)(const QString &), const QString &token);
     void setColor(Slot slot, bool customized, const QString &colorOrToken);
     void setCustomized(Slot slot, bool customized);
 
     QString m_iconColorSetName;
     QString m_rightIconColorSetName;
     QString m_iconColorCustomized;
-    QSize m_iconSize = QSize(0, 0);
     UTButtonStyle::Style m_style = UTButtonStyle::None;
     UTButtonSize::Size m_size = UTButtonSize::None;
     int m_height = 0;
-    int m_border = 0;
-    int m_radius = 0;
-    bool m_highContrast = false;
-    bool m_highContrastAsked = false;
 };

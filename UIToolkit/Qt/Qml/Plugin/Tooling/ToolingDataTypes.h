@@ -2,17 +2,24 @@
 
 // The native data types as the tools see them; see ToolingTypes.h for why this is a file of its own.
 
+#include "UTBlockButtonData.h"
+#include "UTChipData.h"
 #include "UTColorData.h"
 #include "UTColorSetData.h"
 #include "UTEventData.h"
 #include "UTEventFilterData.h"
+#include "UTIconButtonData.h"
 #include "UTKeyEventData.h"
 #include "UTLinkData.h"
 #include "UTListData.h"
+#include "UTMultilinePillButtonData.h"
 #include "UTPillButtonData.h"
 #include "UTPopOverData.h"
+#include "UTRectangleButtonData.h"
 #include "UTRichTextAreaData.h"
+#include "UTRoundButtonData.h"
 #include "UTShortcutOverride.h"
+#include "UTTextButtonData.h"
 #include "UTToolTipData.h"
 
 #include <QtQml/qqml.h>
@@ -42,6 +49,24 @@ struct UTEventDataTooling
     QML_NAMED_ELEMENT(UTEventData)
 };
 
+struct UTBlockButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTBlockButtonData)
+    QML_NAMED_ELEMENT(UTBlockButtonData)
+    QML_ATTACHED(UTBlockButtonData)
+    QML_UNCREATABLE("UTBlockButtonData attached property.")
+};
+
+struct UTChipDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTChipData)
+    QML_NAMED_ELEMENT(UTChipData)
+    QML_ATTACHED(UTChipData)
+    QML_UNCREATABLE("UTChipData attached property.")
+};
+
 struct UTEventFilterDataTooling
 {
     Q_GADGET
@@ -49,6 +74,15 @@ struct UTEventFilterDataTooling
     QML_NAMED_ELEMENT(UTEventFilterData)
     QML_ATTACHED(UTEventFilterData)
     QML_UNCREATABLE("UTEventFilterData attached property.")
+};
+
+struct UTIconButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTIconButtonData)
+    QML_NAMED_ELEMENT(UTIconButtonData)
+    QML_ATTACHED(UTIconButtonData)
+    QML_UNCREATABLE("UTIconButtonData attached property.")
 };
 
 struct UTKeyEventDataTooling
@@ -74,6 +108,15 @@ struct UTListDataTooling
     QML_NAMED_ELEMENT(UTListData)
 };
 
+struct UTMultilinePillButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTMultilinePillButtonData)
+    QML_NAMED_ELEMENT(UTMultilinePillButtonData)
+    QML_ATTACHED(UTMultilinePillButtonData)
+    QML_UNCREATABLE("UTMultilinePillButtonData attached property.")
+};
+
 struct UTPillButtonDataTooling
 {
     Q_GADGET
@@ -83,6 +126,15 @@ struct UTPillButtonDataTooling
     QML_UNCREATABLE("UTPillButtonData attached property.")
 };
 
+struct UTRectangleButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTRectangleButtonData)
+    QML_NAMED_ELEMENT(UTRectangleButtonData)
+    QML_ATTACHED(UTRectangleButtonData)
+    QML_UNCREATABLE("UTRectangleButtonData attached property.")
+};
+
 struct UTRichTextAreaDataTooling
 {
     Q_GADGET
@@ -90,6 +142,15 @@ struct UTRichTextAreaDataTooling
     QML_NAMED_ELEMENT(UTRichTextAreaData)
     QML_ATTACHED(UTRichTextAreaData)
     QML_UNCREATABLE("UTRichTextAreaData attached property.")
+};
+
+struct UTRoundButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTRoundButtonData)
+    QML_NAMED_ELEMENT(UTRoundButtonData)
+    QML_ATTACHED(UTRoundButtonData)
+    QML_UNCREATABLE("UTRoundButtonData attached property.")
 };
 
 struct UTShortcutOverrideTooling
@@ -108,6 +169,15 @@ struct UTPopOverDataTooling
     QML_NAMED_ELEMENT(UTPopOverData)
     QML_ATTACHED(UTPopOverData)
     QML_UNCREATABLE("UTPopOverData attached property.")
+};
+
+struct UTTextButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTTextButtonData)
+    QML_NAMED_ELEMENT(UTTextButtonData)
+    QML_ATTACHED(UTTextButtonData)
+    QML_UNCREATABLE("UTTextButtonData attached property.")
 };
 
 struct UTToolTipDataTooling

@@ -1,0 +1,6 @@
+/*! The pointing hand over its parent. */
+import QtQuick
+
+HoverHandler {
+    cursorShape: Qt.PointingHandCursor
+}

@@ -154,6 +154,30 @@ Item {
             verify(!button.parts.cursor.enabled);
         }
 
+        function test_clickTip() {
+            const button = make("UTTextButton", { text: "What is this?", tooltipContent: "A link" });
+            mouseClick(button);
+            verify(!button.parts.clickTip);
+            button.enableClickTooltip = true;
+            mouseClick(button);
+            const tip = button.parts.clickTip;
+            compareProperties(tip, { isOpen: true, maximumWidth: 216, tooltipText: "A link" });
+            tryVerify(() => tip.tooltipWindow && tip.tooltipWindow.visible);
+            mouseClick(button);
+            verify(!tip.isOpen);
+            tryVerify(() => !tip.tooltipWindow.visible);
+            mouseClick(button);
+            button.forceActiveFocus();
+            keyClick(Qt.Key_Escape);
+            verify(!tip.isOpen);
+            button.tooltipMaxWidth = 100;
+            mouseClick(button);
+            compareProperties(tip, { isOpen: true, maximumWidth: 100 });
+            mouseMove(stage, 390, 290);
+            stage.forceActiveFocus();
+            tryVerify(() => !tip.isOpen);
+        }
+
         function test_blockButton() {
             const button = make("UTBlockButton", { text: "<b>Title</b><br>a &lt;b&gt;", tooltip: "Tip", width: 200 });
             compare(button.Accessible.name, "Title, a <b>");

@@ -27,6 +27,11 @@ if(UITOOLKIT_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(UITOOLKIT_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address)
+endif()
+
 # The warnings and definitions of our own C++; code that the Qt tools generate is built without them.
 add_library(uitoolkit_options INTERFACE)
 target_compile_options(uitoolkit_options INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${UITOOLKIT_WERROR}>:-Werror>)

@@ -72,6 +72,8 @@ private Q_SLOTS:
     void links();
     void limits();
     void clipboardKinds();
+    void hostilePastes_data();
+    void hostilePastes();
     void headings();
     void bulletsAreUndoneWithTheEdit();
     void documentDies();
@@ -372,6 +374,30 @@ void tst_RichTextAreaData::clipboardKinds()
     QCOMPARE(html(), u"<p><i>rich<b></i></p>"_s);
 }
 
+void tst_RichTextAreaData::hostilePastes_data()
+{
+    QTest::addColumn<QString>("step");
+    QTest::newRow("nested tables") << u"html "_s + u"<table><tr><td>"_s.repeated(25) + u'x';
+    QTest::newRow("nested divisions") << u"html "_s + u"<div>"_s.repeated(20000) + u'x';
+    QTest::newRow("ampersands") << u"html "_s + QString(1000000, u'&');
+    QTest::newRow("plain ampersands") << u"text "_s + QString(1000000, u'&');
+    QTest::newRow("list") << u"html <ul>"_s + u"<li>x"_s.repeated(10000);
+    QTest::newRow("changes of format") << u"html "_s + u"<b>x</b>y"_s.repeated(10000);
+    QTest::newRow("lines into a list") << u"text "_s + u"x\n"_s.repeated(20000);
+}
+
+//! As they are, each would take the text engine half a minute or more.
+void tst_RichTextAreaData::hostilePastes()
+{
+    QFETCH(QString, step);
+    QElapsedTimer timer;
+    timer.start();
+    perform({u"bullets"_s, step});
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!html().isEmpty());
+    QCOMPARE(unsupported(), QString());
+}
+
 void tst_RichTextAreaData::headings()
 {
     const struct
@@ -466,7 +492,7 @@ void tst_RichTextAreaData::anySequence_data()
 {
     QTest::addColumn<quint32>("seed");
     QTest::addColumn<bool>("bullets");
-    const int count = qEnvironmentVariableIntValue("RICHTEXT_SEQUENCES");
+    const int count = qEnvironmentVariableIntValue("UITOOLKIT_FUZZ_SEQUENCES");
     for (int seed = 1; seed <= (count > 0 ? count : 40); ++seed)
         QTest::addRow("%d", seed) << quint32(seed) << (seed % 2 == 0);
 }

@@ -50,7 +50,8 @@ void tst_UntrustedHtml::reduces_data()
         u"<p>a</p><p>d</p>"_s);
     row("headings", u"<h1>a</h1><h3 class=x>b<br></h3><h4>c</h4>d"_s, u"<h1>a</h1><h3>b</h3><p><b>c</b></p><p>d</p>"_s);
     row("lists", u"<ul><li>a<li><p>b</p><p>c</p><ol><li><h2>d</h2></ol><li></ul>e"_s,
-        u"<ul><li>a</li><li>b</li></ul><p>c</p><ul><li><h2>d</h2></li><li style=\"-qt-paragraph-type:empty;\"><br />"
+        u"<ul><li>a</li></ul><ul><li>b</li></ul><p>c</p><ul><li><h2>d</h2></li></ul><ul><li "
+        u"style=\"-qt-paragraph-type:empty;\"><br />"
         "</li></ul><p>e</p>"_s);
     row("table", u"<table><tr><th>a<td>b<tr><td>c</table>d"_s, u"<p><b>a</b></p><p>b</p><p>c</p><p>d</p>"_s);
     row("breaks", u"a<br>b<br><p>c<br><br></p><div><br></div>d"_s,

@@ -61,7 +61,7 @@ void FlatHtmlWriter::endBlock()
     else if (!m_block.isItem)
         m_html += "</p>"_L1;
     if (m_block.isItem)
-        m_html += "</li>"_L1;
+        m_html += "</li></ul>"_L1;
     m_open = false;
     m_guard.startLine();
 }
@@ -74,15 +74,15 @@ void FlatHtmlWriter::emptyBlock()
         return;
     // The way in which the text engine itself writes it.
     const auto content = " style=\"-qt-paragraph-type:empty;\"><br /></"_L1;
-    enterList(m_next.isItem);
-    const QLatin1StringView tag = m_next.isItem ? "li"_L1 : "p"_L1;
-    m_html += u'<' % tag % content % tag % u'>';
+    if (m_next.isItem)
+        m_html += "<ul><li"_L1 % content % "li></ul>"_L1;
+    else
+        m_html += "<p"_L1 % content % "p>"_L1;
 }
 
 QString FlatHtmlWriter::take()
 {
     endBlock();
-    enterList(false);
     return std::move(m_html);
 }
 
@@ -92,9 +92,9 @@ void FlatHtmlWriter::openBlock()
     m_open = true;
     ++m_blockCount;
     m_emptyBlocks = 0;
-    enterList(m_block.isItem);
+    // A list for each item, as the compose area has it: the text engine's time grows with the square of a list's length.
     if (m_block.isItem)
-        m_html += "<li>"_L1;
+        m_html += "<ul><li>"_L1;
     if (m_block.headingLevel > 0)
         m_html += "<h"_L1 % QChar(u'0' + m_block.headingLevel) % u'>';
     else if (!m_block.isItem)
@@ -126,11 +126,4 @@ void FlatHtmlWriter::setFormat(const Format &format, const QString &linkTarget)
     if (format.underline)
         m_html += "<u>"_L1;
     m_format = format;
-}
-
-void FlatHtmlWriter::enterList(bool isItem)
-{
-    if (isItem != m_inList)
-        m_html += isItem ? "<ul>"_L1 : "</ul>"_L1;
-    m_inList = isItem;
 }

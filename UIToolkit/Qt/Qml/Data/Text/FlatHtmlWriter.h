@@ -47,7 +47,6 @@ public:
 private:
     void openBlock();
     void setFormat(const Format &format, const QString &linkTarget);
-    void enterList(bool isItem);
 
     QString m_html;
     TextRunGuard m_guard;
@@ -58,7 +57,6 @@ private:
     Format m_format;
     bool m_linkWritten = false;
     bool m_open = false;
-    bool m_inList = false;
     int m_blockCount = 0;
     int m_emptyBlocks = 0;
 };

@@ -22,6 +22,15 @@ public:
     {
     }
 
+    void copy(const QTextDocument &source)
+    {
+        // Without it each piece of text would have its paragraph laid out, to place the cursor in it.
+        m_cursor.beginEditBlock();
+        copyFrame(source.rootFrame());
+        m_cursor.endEditBlock();
+    }
+
+private:
     void copyFrame(const QTextFrame *frame)
     {
         for (auto it = frame->begin(); !it.atEnd(); ++it) {
@@ -32,7 +41,6 @@ public:
         }
     }
 
-private:
     void copyBlock(const QTextBlock &source)
     {
         m_cursor.movePosition(QTextCursor::End);
@@ -101,7 +109,7 @@ std::unique_ptr<QTextDocument> RichTextSanitizer::sanitized(const QTextDocument 
     auto target = std::make_unique<QTextDocument>();
     target->setUndoRedoEnabled(false);
     target->setDefaultFont(defaultFont);
-    Copier(target.get(), linkColor).copyFrame(source.rootFrame());
+    Copier(target.get(), linkColor).copy(source);
     return target;
 }
 
@@ -121,4 +129,20 @@ void RichTextSanitizer::removeSelection(QTextCursor &cursor)
     if (QTextList *list = cursor.currentList())
         list->remove(cursor.block());
     cursor.setBlockFormat(QTextBlockFormat());
+}
+
+void RichTextSanitizer::insertOutsideList(const QString &text, QTextCursor &cursor)
+{
+    const QTextCharFormat charFormat = cursor.charFormat();
+    QTextBlockFormat blockFormat = cursor.blockFormat();
+    blockFormat.setObjectIndex(-1);
+    cursor.beginEditBlock();
+    bool isFirst = true;
+    for (const QStringView line : QStringView(text).tokenize(QChar(QChar::ParagraphSeparator))) {
+        if (!isFirst)
+            cursor.insertBlock(blockFormat, charFormat);
+        cursor.insertText(line.toString(), charFormat);
+        isFirst = false;
+    }
+    cursor.endEditBlock();
 }

@@ -21,4 +21,7 @@ void insert(const QTextDocument &document, QTextCursor &cursor);
 //! Removes what is selected, with the format of the one paragraph that is left of a whole document.
 void removeSelection(QTextCursor &cursor);
 
+//! Inserts plain text so that its paragraphs do not join the list that \a cursor is in.
+void insertOutsideList(const QString &text, QTextCursor &cursor);
+
 } // namespace RichTextSanitizer

@@ -37,6 +37,9 @@ constexpr qreal indentWidth = 20;
 constexpr qreal pointsPerInch = 72;
 constexpr QPoint belowPointer{0, 10};
 
+// Paragraphs of text that may join a list. The text engine's time grows with the square of a list's length.
+constexpr int longestList = 1000;
+
 QString normaliseLink(const QString &link)
 {
     constexpr auto mailScheme = "mailto:"_L1;
@@ -581,6 +584,8 @@ bool UTRichTextAreaData::eventFilter(QObject *watched, QEvent *event)
             isHandled = handleKey(*static_cast<QKeyEvent *>(event));
         else if (event->type() == QEvent::InputMethod)
             isHandled = handleInputMethod(*static_cast<QInputMethodEvent *>(event));
+        else if (event->type() == QEvent::MouseButtonRelease)
+            isHandled = handleMouse(*static_cast<QMouseEvent *>(event));
     }
     return isHandled || KObject::eventFilter(watched, event);
 }
@@ -623,6 +628,19 @@ bool UTRichTextAreaData::handleInputMethod(const QInputMethodEvent &event)
     // The text area has not seen the end of the composition, and would go on showing it.
     QInputMethodEvent rest(event.preeditString(), event.attributes());
     QCoreApplication::sendEvent(m_textArea, &rest);
+    return true;
+}
+
+bool UTRichTextAreaData::handleMouse(const QMouseEvent &event)
+{
+    // The text area would paste the selection as it is, with whatever is in it.
+    if (m_readOnly || event.button() != Qt::MiddleButton || !QGuiApplication::clipboard()->supportsSelection())
+        return false;
+    int position = m_cursorPosition;
+    QMetaObject::invokeMethod(m_textArea, "positionAt", Q_RETURN_ARG(int, position), Q_ARG(qreal, event.position().x()),
+                              Q_ARG(qreal, event.position().y()));
+    m_textArea->setProperty("cursorPosition", position);
+    paste(QGuiApplication::clipboard()->mimeData(QClipboard::Selection));
     return true;
 }
 
@@ -683,7 +701,11 @@ void UTRichTextAreaData::removeUnsupportedFormats()
 
 void UTRichTextAreaData::pasteText()
 {
-    const QMimeData *data = QGuiApplication::clipboard()->mimeData(QClipboard::Clipboard);
+    paste(QGuiApplication::clipboard()->mimeData(QClipboard::Clipboard));
+}
+
+void UTRichTextAreaData::paste(const QMimeData *data)
+{
     if (!data)
         return;
     const auto scratch = scratchDocument();
@@ -732,9 +754,13 @@ void UTRichTextAreaData::insertDocument(const QTextDocument &scratch, bool asHtm
         return;
     }
     QTextCursor cursor = makeCursor();
+    if (cursor.isNull())
+        return;
     // Unlike the plain text of a document, this keeps no-break spaces.
     const QString text = scratch.toRawText();
-    if (!cursor.isNull() && !insertWithPendingFormat(cursor, text))
+    if (scratch.blockCount() > longestList && cursor.currentList())
+        RichTextSanitizer::insertOutsideList(text, cursor);
+    else if (!insertWithPendingFormat(cursor, text))
         cursor.insertText(text);
 }
 

@@ -15,6 +15,7 @@
 class QInputMethodEvent;
 class QKeyEvent;
 class QMimeData;
+class QMouseEvent;
 
 /*!
  * Makes a rich-text TextArea a compose area, as an attached object: bold, italic, underline, three levels of headings,
@@ -216,12 +217,14 @@ private:
 
     bool handleKey(const QKeyEvent &event);
     bool handleInputMethod(const QInputMethodEvent &event);
+    bool handleMouse(const QMouseEvent &event);
     bool insertTypedText(const QString &text);
     bool insertWithPendingFormat(QTextCursor cursor, const QString &text);
     bool exceedsLimit(qsizetype addedLength) const;
 
     std::unique_ptr<QTextDocument> scratchDocument() const;
     std::unique_ptr<QTextDocument> sanitized(const QTextDocument &source) const;
+    void paste(const QMimeData *data);
     void insertDocument(const QTextDocument &scratch, bool asHtml);
     void insertHtml(const QTextDocument &scratch);
 

@@ -121,7 +121,8 @@ void ListBench::run(QQmlEngine *engine, Results &results)
     add(u"groups of an item model of %1"_s.arg(number), rebuild(QVariant::fromValue<QObject *>(&rows)), u"ms"_s);
     add(u"groups of a ListModel of %1"_s.arg(number), rebuild(models->property("listModel")), u"ms"_s);
     add(u"groups of an array of %1"_s.arg(number), rebuild(models->property("array")), u"ms"_s);
-    add(u"a description among %1"_s.arg(QLocale(QLocale::English).toString(fewRows)), usOfDescription(data, few, rounds), u"us"_s);
+    add(u"a description among %1"_s.arg(QLocale(QLocale::English).toString(fewRows)),
+        usOfDescription(data, few, rounds), u"us"_s);
     add(u"a description among %1"_s.arg(number), usOfDescription(data, rows, rounds), u"us"_s);
     add(u"a row put in front of them"_s, msOf(rounds, [&] { rows.insertFirst(); }) * usPerMs, u"us"_s);
 }

@@ -25,3 +25,15 @@ function(uitoolkit_add_native_test source)
     add_test(NAME ${name} COMMAND ${name})
     uitoolkit_set_test_environment(${name} LABELS native)
 endfunction()
+
+# Adds a Qt Test program that shows real windows: it runs on a virtual display with a window manager, and is skipped where
+# there is none.
+function(uitoolkit_add_window_test source)
+    get_filename_component(name "${source}" NAME_WE)
+    uitoolkit_add_executable(${name} ${source})
+    target_link_libraries(${name} PRIVATE korvuui Qt6::Test Qt6::Quick)
+    add_dependencies(${name} uitoolkitqml korvu uielements)
+    add_test(NAME ${name} COMMAND "${CMAKE_SOURCE_DIR}/Tests/Windows/run.sh" $<TARGET_FILE:${name}>)
+    uitoolkit_set_test_environment(${name} LABELS windows)
+    set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77 RESOURCE_LOCK display)
+endfunction()

@@ -125,7 +125,7 @@ Subjects findSubjects(const QRegularExpression &filter)
         if (!filter.match(component).hasMatch())
             continue;
         const QJsonObject row = rowFor(component, rows);
-        QStringList imports = {u"UIToolkitQml 1.0"_s};
+        QStringList imports = {u"Korvu 1.0"_s, u"UIToolkitQml 1.0"_s};
         if (companions.contains(component))
             imports += {u"UIToolkitQml_Private 1.0"_s, u"UIToolkitQml_Experimental 1.0"_s};
         const Subject subject = {component, document(imports, component, row["set"_L1].toString()), true,

@@ -26,7 +26,8 @@ const QString awaitedFile = QStringLiteral(UITOOLKIT_SOURCE_DIR "/Tests/Native/a
 constexpr QByteArrayView placeholder = "AwaitedData";
 
 // What a type cannot do without, beside its name.
-const QHash<QString, QString> necessities = {{u"KFocusItemCanvas"_s, u"focusItem: KBasicFocusItem {}"_s}};
+const QHash<QString, QString> necessities = {{u"KFocusItemCanvas"_s, u"focusItem: KBasicFocusItem {}"_s},
+                                             {u"UTPopOverWrapper"_s, u"model: UTPopOverModel {}"_s}};
 
 QStringList readLines(const QString &path)
 {
@@ -195,7 +196,8 @@ std::unique_ptr<QObject> tst_Types::create(const QString &module, const QString 
 {
     QQmlComponent component(&m_engine);
     const QString companion = module == modules.first() ? QString() : u"import %1 1.0\n"_s.arg(module);
-    const QString source = u"import UIToolkitQml 1.0\n%1%2 { %3 }"_s.arg(companion, name, necessities.value(name));
+    const QString source =
+        u"import Korvu 1.0\nimport UIToolkitQml 1.0\n%1%2 { %3 }"_s.arg(companion, name, necessities.value(name));
     component.setData(source.toUtf8(), QUrl());
     std::unique_ptr<QObject> object(component.isReady() ? component.create() : nullptr);
     *error = component.errorString();

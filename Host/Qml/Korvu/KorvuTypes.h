@@ -15,6 +15,7 @@
 #include "ThemeManager.h"
 #include "ToolTipWindowManager.h"
 #include "UIToolKitUtils.h"
+#include "UTPopOverModel.h"
 #include "Utils.h"
 
 //! Hands the application's one object to an engine, which must not delete it: other engines use it too.
@@ -107,3 +108,10 @@ Q_NAMESPACE
 QML_FOREIGN_NAMESPACE(KKeySequence)
 QML_NAMED_ELEMENT(KKeySequence)
 } // namespace KKeySequenceType
+
+struct UTPopOverModelType
+{
+    Q_GADGET
+    QML_FOREIGN(UTPopOverModel)
+    QML_NAMED_ELEMENT(UTPopOverModel)
+};

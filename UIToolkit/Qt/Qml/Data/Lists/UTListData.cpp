@@ -189,22 +189,20 @@ void UTListData::componentComplete()
     rebuild();
 }
 
-// Whether a signal about the rows first to last, of the rows before limit, contradicts what is known of the model or what
-// the model says itself. The number of rows is to have changed by growth times theirs.
-bool UTListData::isUnbelievable(int first, int last, int limit, int growth) const
+// Whether a signal about these rows contradicts what is known of the model, or what the model says itself.
+bool UTListData::isUnbelievable(int first, int last, int limit, int countAfter) const
 {
-    const qint64 count = qint64(last) - first + 1;
-    return !m_isComplete || first < 0 || last < first || last >= limit || m_rows.count() != m_count + growth * count
+    return first < 0 || last < first || last >= limit || m_rows.count() != countAfter
         || m_rows.role(m_itemTypeRole) != m_typeRole || m_rows.role(m_displayRole) != m_nameRole;
 }
 
 void UTListData::handleInsertion(int first, int last)
 {
-    if (first > m_count || isUnbelievable(first, last, m_rows.count(), 1)) {
+    const int count = last - first + 1;
+    if (!m_isComplete || first > m_count || isUnbelievable(first, last, m_rows.count(), m_count + count)) {
         rebuild();
         return;
     }
-    const int count = last - first + 1;
     shift(first, count);
     m_count += count;
     scan(first, last);
@@ -213,11 +211,11 @@ void UTListData::handleInsertion(int first, int last)
 
 void UTListData::handleRemoval(int first, int last)
 {
-    if (isUnbelievable(first, last, m_count, -1)) {
+    const int count = last - first + 1;
+    if (!m_isComplete || isUnbelievable(first, last, m_count, m_count - count)) {
         rebuild();
         return;
     }
-    const int count = last - first + 1;
     forget(first, last);
     shift(last + 1, -count);
     m_count -= count;
@@ -226,8 +224,8 @@ void UTListData::handleRemoval(int first, int last)
 
 void UTListData::handleMove(int first, int last, int destination)
 {
-    const bool isElsewhere = destination < first || destination - 1 > last;
-    if (!isElsewhere || destination < 0 || destination > m_count || isUnbelievable(first, last, m_count, 0)) {
+    if (!m_isComplete || destination < 0 || destination > m_count || (destination >= first && destination <= last + 1)
+        || isUnbelievable(first, last, m_count, m_count)) {
         rebuild();
         return;
     }
@@ -246,7 +244,7 @@ void UTListData::handleData(const QModelIndex &topLeft, const QModelIndex &botto
         return;
     const int first = topLeft.row();
     const int last = bottomRight.row();
-    if (isUnbelievable(first, last, m_count, 0)) {
+    if (!m_isComplete || isUnbelievable(first, last, m_count, m_count)) {
         rebuild();
     } else if (roles.isEmpty() || roles.contains(m_typeRole.number) || roles.contains(m_nameRole.number)) {
         forget(first, last);

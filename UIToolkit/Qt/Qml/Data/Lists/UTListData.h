@@ -104,7 +104,7 @@ private:
     void handleRemoval(int first, int last);
     void handleMove(int first, int last, int destination);
     void handleData(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles);
-    bool isUnbelievable(int first, int last, int limit, int growth) const;
+    bool isUnbelievable(int first, int last, int limit, int countAfter) const;
 
     void rebuild();
     void scan(int first, int last);

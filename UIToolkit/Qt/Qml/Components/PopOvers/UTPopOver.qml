@@ -1,0 +1,316 @@
+/*!
+    A balloon with an arrow in a window of its own, beside the item that it points at. It turns to another side of the item
+    or slides along it where it would not fit on the screen.
+
+    \qml
+    UTPillButton {
+        text: "Details"
+        onClicked: details.showPopOver()
+
+        UTPopOver {
+            id: details
+            accessibleName: "Details"
+            content: Component { KText { text: "Three people are in this space." } }
+        }
+    }
+    \endqml
+*/
+import QtQuick
+import QtQuick.Window
+import Korvu 1.0
+import UiElements 1.0
+import UIToolkitQml 1.0
+import UIToolkitQml_Private_Data 1.0
+
+Item {
+    id: control
+
+    //! What the balloon holds. It is made anew each time and has the focus of the window.
+    property Component content
+    //! What the balloon points at; the screen's corner when null. The balloon closes when the item is destroyed.
+    property Item targetItem: parent
+    property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
+    //! Values of UTPopOverEnum: where on its side the arrow sits, and which side of the balloon has it.
+    property int arrowAlignment: UTPopOverEnum.CenterAlignment
+    property int arrowAnchor: UTPopOverEnum.Top
+    //! Size class, a value of UTPopOverEnum.Size: how large arrow and corners are.
+    property int popOverSize: UTPopOverEnum.Small
+    //! Pixels by which the arrow is moved on its side.
+    property int arrowOffset: 0
+    property bool arrowVisible: true
+    //! Whether the window becomes the active one when it is shown.
+    property bool showWithActive: true
+    //! Index of the window's screen in the application's list of screens; found anew with each showing.
+    property int activeScreenIndex: 0
+    //! Pixels kept free around the target.
+    property int popOverMargin: 2
+    //! Closes the balloon when nothing in it has the focus any more.
+    property bool hasFocusItem: false
+    property bool visualFocus: false
+    //! Whether the balloon exists and shows.
+    property bool active: false
+    //! The window that this one belongs to; that of the target when null.
+    property Window windowParent: null
+    //! The window while there is one.
+    property Window windowComponentInstance: null
+    //! Closes the balloon when another window gets the focus, unless that one belongs to the balloon's.
+    property var automaticClose: true
+    //! What assistive technology calls the window; "group" when empty.
+    property var accessibleName: ""
+    //! Without showWithActive, whether the window is one of the application's tools rather than above all others.
+    property bool useToolWithParentFlag: false
+
+    //! The window exists and is about to be shown.
+    signal popUpWindowCreated(windowHandle: var)
+    signal popoverWindowActiveChanged(active: bool)
+    //! The balloon was closed by the Escape key.
+    signal popoverEscapePressed()
+
+    function showPopOver(): void {
+        hideTimer.stop();
+        active = true;
+    }
+
+    //! Closes the balloon, at once or in \a delayTime milliseconds, then only if the pointer is not over it, which
+    //! \a checkMouseForDelayHide can waive.
+    function hidePopOver(delayHide = false, delayTime = 500, checkMouseForDelayHide = true): void {
+        if (!delayHide) {
+            active = false;
+            return;
+        }
+        hideTimer.interval = delayTime;
+        hideTimer.checksMouse = checkMouseForDelayHide;
+        hideTimer.restart();
+    }
+
+    function startHidePopupTimer(): void {
+        hideTimer.restart();
+    }
+
+    function cancelHidePopupTimer(): void {
+        hideTimer.stop();
+    }
+
+    //! Shows what hide() has hidden.
+    function show(): void {
+        visible = true;
+        if (windowComponentInstance) {
+            windowComponentInstance.visible = true;
+            windowComponentInstance.raise();
+        }
+    }
+
+    //! Hides the window without closing the balloon.
+    function hide(): void {
+        visible = false;
+        if (windowComponentInstance)
+            windowComponentInstance.visible = false;
+    }
+
+    //! Follows the target, which may have moved.
+    function updatePosition(): void {
+        if (windowComponentInstance)
+            windowComponentInstance.UTPopOverData.targetItemRect = priv.targetRect();
+    }
+
+    visible: false
+
+    onActiveChanged: priv.update()
+    onTargetItemChanged: {
+        if (targetItem)
+            updatePosition();
+        else if (windowComponentInstance)
+            active = false;
+    }
+    Component.onCompleted: {
+        priv.isComplete = true;
+        priv.update();
+    }
+    Component.onDestruction: priv.destroyWindow()
+
+    Timer {
+        id: hideTimer
+
+        property bool checksMouse: true
+
+        interval: 500
+        onTriggered: {
+            if (control.windowComponentInstance && (!checksMouse || !priv.isMouseInside()))
+                control.active = false;
+        }
+    }
+
+    QtObject {
+        id: priv
+
+        readonly property bool isLinux: Qt.platform.os === "linux"
+        property bool isComplete: false
+
+        readonly property Component windowComponent: Component {
+            Window {
+                id: popOverWindow
+
+                property bool hasBeenActive: !control.showWithActive
+
+                objectName: "popOverWindow"
+                title: control.accessibleName || qsTr("group")
+                // qmllint disable missing-property
+                screen: Qt.application.screens[control.activeScreenIndex] ?? null
+                // qmllint enable missing-property
+                transientParent: control.windowParent ?? control.targetItem?.Window.window ?? null
+                flags: {
+                    if (control.showWithActive) {
+                        return priv.isLinux ? Qt.FramelessWindowHint | Qt.Tool
+                                            : Qt.Popup | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint;
+                    }
+                    return control.useToolWithParentFlag ? Qt.FramelessWindowHint | Qt.Tool
+                                                         : Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.ToolTip;
+                }
+                color: "transparent"
+                x: UTPopOverData.popOverPosition.x
+                y: UTPopOverData.popOverPosition.y
+                width: Math.max(1, balloon.width)
+                height: Math.max(1, balloon.height)
+
+                UTPopOverData.arrowAlignment: control.arrowAlignment
+                UTPopOverData.arrowAnchor: control.arrowAnchor
+                UTPopOverData.arrowOffset: control.arrowOffset
+                UTPopOverData.arrowVisible: control.arrowVisible
+                UTPopOverData.size: control.popOverSize
+
+                function takeSize(): void {
+                    UTPopOverData.popOverSize = Qt.size(Math.max(1, balloon.width), Math.max(1, balloon.height));
+                }
+
+                onActiveChanged: {
+                    hasBeenActive = true;
+                    control.popoverWindowActiveChanged(active);
+                }
+                onClosing: control.active = false
+
+                Connections {
+                    target: App
+                    enabled: control.automaticClose
+
+                    function onFocusWindowChanged(focusWindow: Window): void {
+                        // On its way to this window the focus may pass through others.
+                        if (!popOverWindow.hasBeenActive)
+                            return;
+                        if (!focusWindow) {
+                            focusLoss.start();
+                            return;
+                        }
+                        focusLoss.stop();
+                        const isElsewhere = focusWindow !== popOverWindow && !UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow);
+                        if (isElsewhere || control.hasFocusItem && !popOverWindow.activeFocusItem)
+                            control.active = false;
+                    }
+                }
+
+                // Between two windows the focus may be nowhere for a moment.
+                Timer {
+                    id: focusLoss
+
+                    interval: 100
+                    onTriggered: control.active = false
+                }
+
+                KBalloon {
+                    id: balloon
+
+                    readonly property int horizontalArrow: arrowAnchor === UTPopOverEnum.Left || arrowAnchor === UTPopOverEnum.Right ? arrowSize : 0
+                    readonly property int verticalArrow: arrowAnchor === UTPopOverEnum.Top || arrowAnchor === UTPopOverEnum.Bottom ? arrowSize : 0
+
+                    width: Math.max(1, contentLoader.width + horizontalArrow)
+                    height: Math.max(1, contentLoader.height + verticalArrow)
+                    arrowAnchor: popOverWindow.UTPopOverData.arrowAnchor
+                    arrowAlignment: popOverWindow.UTPopOverData.arrowAlignment
+                    arrowOffset: popOverWindow.UTPopOverData.arrowOffset
+                    arrowSize: popOverWindow.UTPopOverData.arrowSize
+                    radius: popOverWindow.UTPopOverData.radius
+                    backgroundColor: (ThemeManager.globalTheme, App.getColorSet("popover-primary-background", control.themeType).normal)
+                    borderColor: (ThemeManager.globalTheme, App.getColorSet("list-header-outline-secondary", control.themeType).normal)
+
+                    // Both change in one layout; the window is placed once.
+                    onWidthChanged: Qt.callLater(popOverWindow.takeSize)
+                    onHeightChanged: Qt.callLater(popOverWindow.takeSize)
+
+                    Keys.onEscapePressed: {
+                        control.active = false;
+                        control.popoverEscapePressed();
+                    }
+
+                    Loader {
+                        id: contentLoader
+
+                        x: balloon.arrowAnchor === UTPopOverEnum.Left ? balloon.arrowSize : 0
+                        y: balloon.arrowAnchor === UTPopOverEnum.Top ? balloon.arrowSize : 0
+                        focus: true
+                        sourceComponent: control.content
+
+                        onLoaded: {
+                            item.focus = true;
+                            Qt.callLater(popOverWindow.takeSize);
+                        }
+                    }
+                }
+            }
+        }
+
+        function targetRect(): rect {
+            const target = control.targetItem;
+            if (!target)
+                return Qt.rect(0, 0, 0, 0);
+            const margin = control.popOverMargin;
+            const origin = target.mapToGlobal(0, 0);
+            return Qt.rect(origin.x - margin, origin.y - margin, target.width + 2 * margin, target.height + 2 * margin);
+        }
+
+        function isMouseInside(): bool {
+            const content = control.windowComponentInstance.contentItem;
+            const origin = content.mapToGlobal(0, 0);
+            const mouse = Utils.getMousePos();
+            return mouse.x > origin.x && mouse.x < origin.x + content.width && mouse.y > origin.y && mouse.y < origin.y + content.height;
+        }
+
+        function update(): void {
+            if (!isComplete)
+                return;
+            control.visible = control.active;
+            if (control.active && !control.windowComponentInstance)
+                createWindow();
+            else if (!control.active)
+                destroyWindow();
+        }
+
+        function createWindow(): void {
+            const created = windowComponent.createObject(null) as Window;
+            control.windowComponentInstance = created;
+            const rect = targetRect();
+            created.UTPopOverData.targetItemRect = rect;
+            control.popUpWindowCreated(created);
+            // Whoever was told of it may have closed it.
+            if (control.windowComponentInstance !== created)
+                return;
+            control.activeScreenIndex = UIToolKitUtils.getScreenIndexFromPoint(Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2));
+            created.visible = true;
+            if (control.showWithActive && isLinux) {
+                created.raise();
+                created.requestActivate();
+            }
+        }
+
+        function destroyWindow(): void {
+            const closing = control.windowComponentInstance;
+            if (!closing)
+                return;
+            control.windowComponentInstance = null;
+            // Back to where it was opened from, unless the focus has gone elsewhere by itself; while the focus is still
+            // here to be given away.
+            if (closing.active && control.targetItem?.Window.window)
+                control.targetItem.Window.window.requestActivate();
+            closing.visible = false;
+            closing.destroy();
+        }
+    }
+}

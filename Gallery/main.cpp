@@ -31,7 +31,7 @@ QtMessageHandler defaultHandler = nullptr;
 void countWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
-    if (isWarning && message != QtFaults::pictureInText && !QLatin1StringView(context.category).startsWith("qt.qpa"_L1))
+    if (isWarning && !QtFaults::contain(message) && !QLatin1StringView(context.category).startsWith("qt.qpa"_L1))
         ++warnings;
     defaultHandler(type, context, message);
 }

@@ -108,7 +108,7 @@ void tst_Gallery::initTestCase()
 
 void tst_Gallery::init()
 {
-    QTest::failOnWarning(QRegularExpression(u"^(?!%1$)"_s.arg(QRegularExpression::escape(QtFaults::pictureInText))));
+    QTest::failOnWarning(QtFaults::anythingElse());
 }
 
 void tst_Gallery::cleanup()

@@ -127,6 +127,7 @@ void tst_RichTextAreaData::perform(const QStringList &steps)
     for (const QString &step : steps) {
         performStep(step);
         QCoreApplication::processEvents();
+        m_window->grabWindow(); // draws, which needs a whole layout
     }
 }
 

@@ -25,6 +25,7 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
+#include <QTextLayout>
 #include <QTimer>
 
 #include <utility>
@@ -47,6 +48,15 @@ QString normaliseLink(const QString &link)
         return link;
     static const QRegularExpression mailAddress(u"^[A-Za-z0-9._%+-]+@[A-Za-z0-9.-]+\\.[A-Za-z]{2,}$"_s);
     return (mailAddress.match(link).hasMatch() ? mailScheme : "https://"_L1) % link;
+}
+
+bool isLaidOut(const QTextBlock &block)
+{
+    const QTextLayout *layout = block.layout();
+    if (layout->lineCount() == 0)
+        return false;
+    const QTextLine lastLine = layout->lineAt(layout->lineCount() - 1);
+    return lastLine.textStart() + lastLine.textLength() >= block.length() - 1;
 }
 
 } // namespace
@@ -270,8 +280,23 @@ void UTRichTextAreaData::onCursorPositionChanged()
     updateLinkBoundaryState();
 }
 
+// When many edits are undone in one step Qt can tell a wrong range of what has changed, and its text area crashes as soon
+// as it draws a paragraph that is not laid out.
+void UTRichTextAreaData::layOutUntoldChanges()
+{
+    if (!std::exchange(m_mayHideChanges, false) || !m_document)
+        return;
+    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
+        if (!isLaidOut(block)) {
+            m_document->markContentsDirty(block.position(), documentLength() - block.position());
+            return;
+        }
+    }
+}
+
 void UTRichTextAreaData::onDocumentContentsChanged()
 {
+    layOutUntoldChanges();
     // Text that is being composed is shown in the document, but is none of its contents yet.
     if (!std::exchange(m_isComposing, false))
         setShouldApplyNewFormatting(false);
@@ -514,6 +539,8 @@ QString UTRichTextAreaData::getLinkUnderCursor()
 
 void UTRichTextAreaData::onDocumentContentsChange(int from, int charsRemoved, int charsAdded)
 {
+    // Typing one character does not.
+    m_mayHideChanges = m_mayHideChanges || charsRemoved != 0 || charsAdded != 1;
     if (!m_automaticBullets)
         return;
     // After the text area has finished its own edit.

@@ -203,6 +203,7 @@ private:
     qreal basePointSize() const;
     QColor linkQColor() const { return m_linkColor.value<QColor>(); }
 
+    void layOutUntoldChanges();
     void syncFormattingState();
     void updateLinkBoundaryState();
 
@@ -249,6 +250,7 @@ private:
     bool m_shouldRemoveLinkFormatting = false;
     bool m_readOnly = false;
     bool m_isComposing = false;
+    bool m_mayHideChanges = false; // the last edit of the document; see layOutUntoldChanges()
     QVariant m_linkColor = QColor(Qt::blue);
     QTextCharFormat m_charFormat;
 };

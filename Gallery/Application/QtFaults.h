@@ -21,8 +21,9 @@ inline bool contain(QStringView message)
 //! A pattern that matches every message but these.
 inline QRegularExpression anythingElse()
 {
-    return QRegularExpression(QStringLiteral("^(?!(%1|%2)$)")
-                                  .arg(QRegularExpression::escape(pictureInText), QRegularExpression::escape(idleTimers)));
+    return QRegularExpression(
+        QStringLiteral("^(?!(%1|%2)$)")
+            .arg(QRegularExpression::escape(pictureInText), QRegularExpression::escape(idleTimers)));
 }
 
 } // namespace QtFaults

@@ -19,7 +19,6 @@
  */
 class WindowTest : public QObject
 {
-
 protected:
     // Longer than any machine needs, for what a window manager has a say in.
     static constexpr int patience = 20000;

@@ -1,0 +1,55 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import UIToolkitQml 1.0
+import UIToolkitQml_Private 1.0
+import Gallery
+
+GalleryPage {
+    id: page
+
+    category: qsTr("Buttons")
+    description: qsTr("A small square button with an icon, for tool bars; for use inside the library only.")
+    controls: [
+        PropertySwitch { id: hover; label: "hoverOverride" },
+        PropertySlider { id: outline; label: "focusOutline.width"; to: 4; value: 0 },
+        PropertySwitch { id: designated; label: "isDesignatedParent" },
+        PropertySwitch { id: enabledSwitch; label: "enabled"; value: true }
+    ]
+
+    Playground {
+        UTToolButton {
+            iconName: "copy-bold"
+            tooltip: qsTr("Copy")
+            hoverOverride: hover.value
+            focusOutline.width: outline.value
+            isDesignatedParent: designated.value
+            enabled: enabledSwitch.value
+            onClicked: page.log("clicked")
+        }
+    }
+    Sheet {
+        title: qsTr("States")
+
+        Cell {
+            label: qsTr("normal")
+
+            UTToolButton { iconName: "copy-bold"; tooltip: qsTr("Copy") }
+        }
+        Cell {
+            label: "hoverOverride"
+
+            UTToolButton { iconName: "copy-bold"; tooltip: qsTr("Copy"); hoverOverride: true }
+        }
+        Cell {
+            label: qsTr("checked")
+
+            UTToolButton { iconName: "copy-bold"; tooltip: qsTr("Copy"); checkable: true; checked: true }
+        }
+        Cell {
+            label: qsTr("disabled")
+
+            UTToolButton { iconName: "copy-bold"; tooltip: qsTr("Copy"); enabled: false }
+        }
+    }
+}

@@ -1,0 +1,86 @@
+import QtQuick
+import QtTest
+import Korvu 1.0
+import UIToolkitQml 1.0
+
+Item {
+    id: stage
+
+    width: 400
+    height: 200
+
+    ToolkitTestCase {
+        name: "PlainButtons"
+        parent: stage
+
+        SignalSpy { id: clicked; signalName: "clicked" }
+
+        function test_pressed_data() {
+            return table(["tag", "properties", "toggles"], [
+                ["KButton", { text: "Label" }],
+                ["DPillButton", { text: "Label" }],
+                ["DSvgButton", { text: "Label" }],
+                ["DSvgIconButton", { iconName: "plus-bold", tooltip: "Label" }],
+                ["UTBadgeButton", { buttonText: "Label", badgeText: "3" }],
+                ["UTIndicatorButton", { indicatorType: UTIndicatorBadgeEnum.Error, tooltip: "Label" }],
+                ["UTToolButton", { iconName: "copy-bold", tooltip: "Label" }],
+                ["WindowsButton", { tooltip: "Label" }],
+                ["UTRectangleToggleButton", { buttonIcon: "pin-bold", tooltip: "Label" }, true]
+            ]);
+        }
+        function test_pressed(row) {
+            const button = make(row.tag, row.properties);
+            verify(button.width >= 12 && button.height >= 12);
+            compare(button.Accessible.name || button.text, "Label");
+            clicked.target = button;
+            clicked.clear();
+            mouseClick(button);
+            compare(clicked.count, 1);
+            button.forceActiveFocus(Qt.TabFocusReason);
+            App.isKeyboardFocus = true;
+            keyClick(Qt.Key_Return);
+            if (row.toggles)
+                verify(!button.isChecked, "on by the pointer, off by the key");
+            else
+                compare(clicked.count, 2);
+        }
+
+        function test_badInput() {
+            for (const type of [-1, 0, 27, 1000])
+                compare(make("UTIndicatorButton", { indicatorType: type }).contentItem.source.toString(), "");
+            compare(make("WindowsButton", { buttonType: 9 }).tooltip, "");
+        }
+
+        function test_iconAndLabel_data() {
+            return table(["tag", "text", "mirrored", "x"], [
+                ["alone in the middle", "", false, 44],
+                ["before the label", "Add", false, undefined],
+                ["mirrored", "Add", true, undefined]
+            ]);
+        }
+        function test_iconAndLabel(row) {
+            const button = make("DSvgIconButton", { width: 116, text: row.text, iconName: "plus-bold" });
+            button.LayoutMirroring.enabled = row.mirrored;
+            const icon = button.parts.icon;
+            const label = button.contentItem;
+            tryCompare(icon, "visible", true);
+            if (row.x !== undefined) {
+                compare(icon.x, row.x);
+                return;
+            }
+            const room = row.mirrored ? label.rightPadding : label.leftPadding;
+            compare(room, 12 + 6);
+            // Icon, gap and text are in the middle as one.
+            const start = (label.width - 18 - label.contentWidth) / 2;
+            fuzzyCompare(icon.x, row.mirrored ? label.width - start - 12 : start, 1);
+        }
+
+        function test_pressedLook() {
+            const button = make("KButton", { text: "Label", isPressed: true });
+            const colorSet = App.getColorSet("button-primary");
+            compare(button.background.color, colorSet.pressed);
+            button.enabled = false;
+            compare(button.background.color, colorSet.disabled);
+        }
+    }
+}

@@ -1,0 +1,42 @@
+/*!
+    A button that is an indicator badge: an error, a warning, a recording, and so on. Its tool tip names it.
+
+    \qml
+    UTIndicatorButton { indicatorType: UTIndicatorBadgeEnum.Recording; tooltip: "This call is recorded"; onClicked: recording.show() }
+    \endqml
+*/
+import QtQuick
+import Korvu 1.0
+import UIToolkitQml_Private 1.0
+import "qrc:/qt/qml/UIToolkitQml/IndicatorBadges.js" as IndicatorBadges
+import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
+
+UTButtonBase {
+    id: control
+
+    property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
+    //! A value of UTIndicatorBadgeEnum; -1, the default, and unknown ones show nothing.
+    property int indicatorType: -1
+
+    function focusRingSettings(): var {
+        return { themeType: () => control.themeType };
+    }
+
+    implicitWidth: 24
+    implicitHeight: 24
+
+    background: Rectangle {
+        radius: height / 2
+        color: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet("button-ghost-background", control.themeType)))
+    }
+    contentItem: KSvgIcon {
+        readonly property var kind: IndicatorBadges.kindOf(control.indicatorType)
+
+        themeType: control.themeType
+        controlsTarget: control
+        svgName: kind.icon
+        svgColorSetName: kind.colorSet
+        sourceSize: Qt.size(16, 16)
+        fillMode: Image.Pad
+    }
+}

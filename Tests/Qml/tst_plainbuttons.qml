@@ -45,6 +45,15 @@ Item {
                 compare(clicked.count, 2);
         }
 
+        function test_everyKindOfBadgeShows() {
+            const button = make("UTIndicatorButton");
+            for (let type = UTIndicatorBadgeEnum.Alert; type <= UTIndicatorBadgeEnum.MeetingSummary; ++type) {
+                button.indicatorType = type;
+                verify(button.contentItem.svgColorSet.isValid, type);
+                tryCompare(button.contentItem, "status", Image.Ready, undefined, type);
+            }
+        }
+
         function test_badInput() {
             for (const type of [-1, 0, 27, 1000])
                 compare(make("UTIndicatorButton", { indicatorType: type }).contentItem.source.toString(), "");
@@ -70,6 +79,8 @@ Item {
             }
             const room = row.mirrored ? label.rightPadding : label.leftPadding;
             compare(room, 12 + 6);
+            for (const type of ["DSvgButton", "DSvgIconButton"])
+                verify(make(type, { text: row.text, iconHeight: 60 }).height >= 60, "taller than its label");
             // Icon, gap and text are in the middle as one.
             const start = (label.width - 18 - label.contentWidth) / 2;
             fuzzyCompare(icon.x, row.mirrored ? label.width - start - 12 : start, 1);

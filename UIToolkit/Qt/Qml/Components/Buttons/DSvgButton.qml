@@ -35,6 +35,7 @@ KButton {
 
     horizontalAlignment: alignment
     radius: height / 2
+    implicitHeight: Math.max(implicitContentHeight, iconHeight) + topPadding + bottomPadding
     tooltip: text
     implicitWidth: Math.max(implicitHeight, text.length > 0 ? implicitContentWidth + leftPadding + rightPadding : iconWidth + leftPadding + rightPadding)
 

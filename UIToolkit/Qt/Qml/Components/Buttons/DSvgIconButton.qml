@@ -19,6 +19,7 @@ DPillButton {
     property real iconHeight: 12
     property real iconWidth: 12
 
+    implicitHeight: Math.max(implicitContentHeight, iconHeight) + topPadding + bottomPadding
     horizontalPadding: 8
     implicitWidth: Math.max(implicitHeight, text.length > 0 ? implicitContentWidth + leftPadding + rightPadding : iconWidth + leftPadding + rightPadding)
 

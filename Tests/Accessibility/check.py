@@ -132,6 +132,9 @@ class Test:
             names = [Atspi.Action.get_action_name(item, i) for i in range(Atspi.Action.get_n_actions(item))]
             for action in row["actions"]:
                 self.check(f'number of actions "{action}" of {what}', names.count(action), 1)
+        if "pressed" in row:
+            heard = {"type": "object:announcement", "text": row["pressed"], "from": row["name"]}
+            self.run_step({"why": f"{what} is pressed once", "on": row["name"], "action": "Press", "events": [heard]})
 
     def do_action(self, item, name):
         for index in range(Atspi.Action.get_n_actions(item)):
@@ -140,8 +143,14 @@ class Test:
                 return
         raise Failure(f'"{item.get_name()}" has no action "{name}"')
 
+    def focus(self, item):
+        item.grab_focus()
+        wait_for(lambda: item.get_state_set().contains(Atspi.StateType.FOCUSED), "the focus")
+
     def run_step(self, step):
         self.events.clear()
+        if "focus" in step:
+            self.focus(self.find(step["focus"]))
         if "keys" in step:
             subprocess.run(["xdotool", "key", *step["keys"].split()], check=True)
         else:

@@ -87,8 +87,11 @@ QStringList describeMembers(const QMetaObject *metaObject)
     for (int i = metaObject->propertyOffset(); i < metaObject->propertyCount(); ++i) {
         const QMetaProperty property = metaObject->property(i);
         notifiers << property.notifySignalIndex();
+        // An alias of an enumeration in Qt has its type on some versions and is a number on others.
+        const bool isForeignEnum = property.isEnumType() && property.typeName()[0] == 'Q';
         properties << u"%1property %2 %3"_s.arg(property.isWritable() ? ""_L1 : "readonly "_L1,
-                                                plainName(property.typeName()), QLatin1StringView(property.name()));
+                                                isForeignEnum ? u"int"_s : plainName(property.typeName()),
+                                                QLatin1StringView(property.name()));
     }
     QStringList methods;
     for (int i = metaObject->methodOffset(); i < metaObject->methodCount(); ++i) {

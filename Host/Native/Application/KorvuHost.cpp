@@ -2,6 +2,7 @@
 
 #include <QQmlEngine>
 
+#include "AccessibleItems.h"
 #include "App.h"
 #include "EmojiImageProvider.h"
 #include "EmojiText.h"
@@ -12,6 +13,7 @@ void KorvuHost::install(QQmlEngine *engine)
 {
     KFont::installSubstitutions();
     App::instance();
+    AccessibleItems::install();
     if (!engine)
         return;
     // An application's own provider of the same name stays.

@@ -77,6 +77,7 @@ T.Button {
     }
     onAccessibleTextChanged: Script.say(control, accessibleText)
 
-    // The text is the name without further ado.
+    // The text is the name without further ado, and a button its role unless it can be checked.
     onTooltipChanged: Accessible.name = Qt.binding(() => control.text || control.tooltip)
+    onCheckableChanged: Script.needPart(control, "role", "CheckableRole", { control: control }, control)
 }

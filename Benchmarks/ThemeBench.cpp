@@ -43,7 +43,7 @@ struct Crowd
 
 const QByteArray toolkitImport = "import UIToolkitQml 1.0\n";
 
-std::array<Crowd, 6> crowds()
+std::array<Crowd, 8> crowds()
 {
     return {{
         {u"nothing alive (whole switch)"_s, {}, {}},
@@ -52,6 +52,8 @@ std::array<Crowd, 6> crowds()
         {u"KSvgIcon"_s, toolkitImport + "KSvgIcon { svgName: \"settings-regular\"; svgColorSetName: \"text-primary\" }",
          u"source"_s},
         {u"UTColorSetData"_s, "import UIToolkitBench\nColorSetUser { width: 80; height: 24 }", u"color"_s},
+        {u"UTPillButton"_s, toolkitImport + "UTPillButton { text: \"Button\" }", u"contentItem.color"_s},
+        {u"UTRoundButton"_s, toolkitImport + "UTRoundButton { buttonIcon: \"settings-bold\" }", u"background.color"_s},
         {u"Material Button"_s, "import QtQuick.Controls.Material\nButton { text: \"Button\" }", u"contentItem.color"_s,
          true},
     }};

@@ -5,7 +5,6 @@
 #include <QAccessible>
 #include <QQuickItem>
 #include <private/qaccessiblequickitem_p.h>
-#include <private/qquickaccessibleattached_p.h>
 #include <private/qquickitem_p.h>
 
 namespace {
@@ -15,11 +14,11 @@ class AccessibleItem : public QAccessibleQuickItem
 public:
     using QAccessibleQuickItem::QAccessibleQuickItem;
 
-    // Qt asks a control what it is before it looks at the role that it was given.
+    // Qt asks a control what it is and overwrites the role that it was given.
     QAccessible::Role role() const override
     {
-        const QQuickAccessibleAttached *given = QQuickAccessibleAttached::attachedProperties(object());
-        return given && given->role() != QAccessible::NoRole ? given->role() : QAccessibleQuickItem::role();
+        const int own = object()->property("accessibleRole").toInt();
+        return own > 0 ? QAccessible::Role(own) : QAccessibleQuickItem::role();
     }
 
     QAccessible::State state() const override

@@ -31,6 +31,9 @@ T.Button {
     //! Spoken when it changes while the button has the focus.
     property string accessibleText
 
+    // For the host: a button for assistive technology too when it can be checked, where Qt makes it a check box.
+    readonly property int accessibleRole: 43 // Accessible.Button
+
     // For the script: whether an activating key is down, and the parts made so far by name.
     property bool isKeyPressed: false
     property var parts
@@ -77,7 +80,6 @@ T.Button {
     }
     onAccessibleTextChanged: Script.say(control, accessibleText)
 
-    // The text is the name without further ado, and a button its role unless it can be checked.
+    // The text is the name without further ado.
     onTooltipChanged: Accessible.name = Qt.binding(() => control.text || control.tooltip)
-    onCheckableChanged: Script.needPart(control, "role", "CheckableRole", { control: control }, control)
 }

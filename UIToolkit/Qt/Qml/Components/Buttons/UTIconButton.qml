@@ -43,12 +43,11 @@ UTButtonBase {
         border.width: control.UTIconButtonData.border
     }
     contentItem: Image {
-        readonly property string name: control.UTIconButtonData.iconData.icon
-
         // Without a colour, as at first, there is nothing to load.
         source: {
             const color = control.UTIconButtonData.textColorData.color;
-            return color.a > 0 && name.length > 0 ? `image://svg/${color}/${name}` : "";
+            const name = control.UTIconButtonData.iconData.icon;
+            return color.a > 0 && name.length > 0 ? "image://svg/" + color + "/" + name : "";
         }
         sourceSize: control.UTIconButtonData.iconSize
         fillMode: Image.Pad

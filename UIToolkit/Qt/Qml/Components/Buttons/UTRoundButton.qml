@@ -63,17 +63,18 @@ UTButtonBase {
         border.width: control.UTRoundButtonData.border
     }
     contentItem: Image {
-        // No colour yet, or no size: nothing to load.
+        // No colour yet, no name or no size: nothing to load.
         source: {
-            const color = control.UTRoundButtonData.iconColorData.color;
-            return color.a > 0 && control.UTRoundButtonData.iconSize.width > 0 && control.buttonIcon.length > 0 ? `image://svg/${color}/${control.buttonIcon}` : "";
+            const data = control.UTRoundButtonData;
+            const color = data.iconColorData.color;
+            return color.a > 0 && control.buttonIcon.length > 0 && data.iconSize.width > 0 ? "image://svg/" + color + "/" + control.buttonIcon : "";
         }
         sourceSize: control.UTRoundButtonData.iconSize
         fillMode: Image.Pad
         mipmap: true // as everywhere, for the texture is shared
-        mirror: control.mirrorEnabled && control.mirrored
     }
 
+    onMirrorEnabledChanged: (contentItem as Image).mirror = Qt.binding(() => control.mirrorEnabled && control.mirrored)
     onIconColorSetNameChanged: UTRoundButtonData.iconColorSetName = iconColorSetName
     onIconColorCustomizedChanged: {
         UTRoundButtonData.iconColorCustomized = iconColorCustomized;

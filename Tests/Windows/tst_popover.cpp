@@ -14,6 +14,7 @@ Window {
     property Item target: targets.count > 0 ? targets.itemAt(0) : null
     function removeTarget() { targets.model = 0 }
 
+    UTPopOverWrapper { model: null }
     Repeater {
         id: targets
         model: 1
@@ -183,7 +184,7 @@ void tst_PopOver::delayedHide()
     EVENTUALLY(!isActive());
     open();
     QCursor::setPos(popOverWindow()->geometry().center());
-    hide(true, 50, false);
+    hide(true, -50, false); // at once
     EVENTUALLY(!isActive());
 }
 

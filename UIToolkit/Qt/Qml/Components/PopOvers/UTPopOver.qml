@@ -78,7 +78,7 @@ Item {
             active = false;
             return;
         }
-        hideTimer.interval = delayTime;
+        hideTimer.interval = Math.min(Math.max(0, delayTime), priv.longestDelay);
         hideTimer.checksMouse = checkMouseForDelayHide;
         hideTimer.restart();
     }
@@ -144,6 +144,8 @@ Item {
         id: priv
 
         readonly property bool isLinux: Qt.platform.os === "linux"
+        // A negative interval, or one that overflows into that, stops the clock of all timers.
+        readonly property int longestDelay: 0x7fffffff
         property bool isComplete: false
 
         readonly property Component windowComponent: Component {

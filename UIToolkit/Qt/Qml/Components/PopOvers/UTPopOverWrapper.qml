@@ -7,10 +7,12 @@
 */
 import QtQuick
 import Korvu 1.0
+import UIToolkitQml 1.0
 
 Item {
     id: control
 
+    //! Without one, or once it is gone, the pop-over is as a model is by default.
     required property UTPopOverModel model
     property alias active: popOver.active
     property alias content: popOver.content
@@ -20,10 +22,10 @@ Item {
         id: popOver
 
         targetItem: control.parent
-        arrowAlignment: control.model.arrowAlignment
-        arrowAnchor: control.model.arrowAnchor
-        popOverSize: control.model.size
-        arrowOffset: control.model.arrowOffset
-        showWithActive: control.model.showWithActive
+        arrowAlignment: control.model?.arrowAlignment ?? UTPopOverEnum.CenterAlignment
+        arrowAnchor: control.model?.arrowAnchor ?? UTPopOverEnum.Top
+        popOverSize: control.model?.size ?? UTPopOverEnum.Small
+        arrowOffset: control.model?.arrowOffset ?? 0
+        showWithActive: control.model?.showWithActive ?? true
     }
 }

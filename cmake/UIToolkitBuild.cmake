@@ -11,6 +11,8 @@ set(CMAKE_INCLUDE_CURRENT_DIR OFF)
 
 # Every QML module of this build lies below this folder; it is the one import path that programs and tools need.
 set(UITOOLKIT_QML_DIR "${CMAKE_BINARY_DIR}/qml")
+# What only the tools see of the modules; they look here first.
+set(UITOOLKIT_TOOLING_DIR "${CMAKE_BINARY_DIR}/tooling")
 set(QT_QML_OUTPUT_DIRECTORY "${UITOOLKIT_QML_DIR}")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(UITOOLKIT_INSTALL_QML_DIR "${CMAKE_INSTALL_LIBDIR}/qml")

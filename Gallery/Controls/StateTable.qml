@@ -6,10 +6,11 @@
         title: qsTr("Styles")
         rows: ["Primary", "Secondary"]
         delegate: UTPillButton {
+            id: example
             required property string row
             required property StateRecord exampleState
             buttonStyle: UTButtonStyle[row]
-            UTPillButtonData.eventData: UTEventData { source: exampleState }
+            UTPillButtonData.eventData: UTEventData { source: example.exampleState }
         }
     }
     \endqml
@@ -99,7 +100,7 @@ Column {
                         width: cells.width
                         height: cells.height + (color.a > 0 ? 2 * Metrics.small : 0)
                         radius: Metrics.smallRadius
-                        backgroundColorSetName: control.groundOf(modelData)
+                        backgroundColorSetName: control.groundOf(modelData) // qmllint disable use-proper-function
 
                         Row {
                             id: cells

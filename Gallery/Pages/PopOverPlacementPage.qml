@@ -34,10 +34,7 @@ GalleryPage {
 
         // The real screen, drawn to scale.
         readonly property real factor: width / screenRect.width
-        readonly property rect screenRect: {
-            const screen = Window.window?.screen;
-            return screen ? Qt.rect(screen.virtualX, screen.virtualY, screen.width, screen.height) : Qt.rect(0, 0, 1280, 800);
-        }
+        readonly property rect screenRect: Qt.rect(Screen.virtualX, Screen.virtualY, Math.max(1, Screen.width), Math.max(1, Screen.height))
 
         function place(): void {
             const balloonSize = Qt.size(balloonWidth.value, balloonHeight.value);
@@ -109,8 +106,8 @@ GalleryPage {
                 const moves = ({ [Qt.Key_Left]: [-step, 0], [Qt.Key_Right]: [step, 0], [Qt.Key_Up]: [0, -step], [Qt.Key_Down]: [0, step] })[event.key];
                 event.accepted = moves !== undefined;
                 if (moves) {
-                    x += moves[0];
-                    y += moves[1];
+                    target.x += moves[0];
+                    target.y += moves[1];
                 }
             }
 

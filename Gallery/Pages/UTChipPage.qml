@@ -38,6 +38,8 @@ GalleryPage {
         title: qsTr("Styles")
         rows: page.styles
         delegate: UTChip {
+            id: example
+
             required property string row
             required property StateRecord exampleState
 
@@ -45,7 +47,7 @@ GalleryPage {
             chipStyle: UTChipStyle["Outline_" + row]
             enabled: exampleState.enabled
             activeFocusOnTab: false
-            UTChipData.eventData: UTEventData { source: exampleState }
+            UTChipData.eventData: UTEventData { source: example.exampleState }
         }
     }
     Sheet {

@@ -36,6 +36,8 @@ GalleryPage {
         title: qsTr("Types")
         rows: page.types
         delegate: UTIconButton {
+            id: example
+
             required property string row
             required property StateRecord exampleState
 
@@ -43,7 +45,7 @@ GalleryPage {
             tooltip: row
             enabled: exampleState.enabled
             activeFocusOnTab: false
-            UTIconButtonData.eventData: UTEventData { source: exampleState }
+            UTIconButtonData.eventData: UTEventData { source: example.exampleState }
         }
     }
 }

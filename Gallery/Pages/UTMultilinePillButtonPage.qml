@@ -54,6 +54,8 @@ GalleryPage {
         title: qsTr("Styles")
         rows: page.styles
         delegate: UTMultilinePillButton {
+            id: example
+
             required property string row
             required property StateRecord exampleState
 
@@ -62,7 +64,7 @@ GalleryPage {
             buttonSize: UTButtonSize.S
             enabled: exampleState.enabled
             activeFocusOnTab: false
-            UTMultilinePillButtonData.eventData: UTEventData { source: exampleState }
+            UTMultilinePillButtonData.eventData: UTEventData { source: example.exampleState }
         }
     }
     Sheet {

@@ -77,6 +77,8 @@ GalleryPage {
         rows: page.styles
         groundOf: page.groundOf
         delegate: UTPillButton {
+            id: example
+
             required property string row
             required property StateRecord exampleState
 
@@ -86,7 +88,7 @@ GalleryPage {
             buttonSize: UTButtonSize.S
             enabled: exampleState.enabled
             activeFocusOnTab: false
-            UTPillButtonData.eventData: UTEventData { source: exampleState }
+            UTPillButtonData.eventData: UTEventData { source: example.exampleState }
         }
     }
     Sheet {

@@ -72,6 +72,8 @@ GalleryPage {
         rows: page.styles
         groundOf: page.groundOf
         delegate: UTRoundButton {
+            id: example
+
             required property string row
             required property StateRecord exampleState
 
@@ -80,7 +82,7 @@ GalleryPage {
             buttonSize: UTButtonSize.S
             enabled: exampleState.enabled
             activeFocusOnTab: false
-            UTRoundButtonData.eventData: UTEventData { source: exampleState }
+            UTRoundButtonData.eventData: UTEventData { source: example.exampleState }
         }
     }
     Sheet {

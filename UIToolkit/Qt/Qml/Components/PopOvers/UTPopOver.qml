@@ -15,6 +15,8 @@
     }
     \endqml
 */
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Window
 import Korvu 1.0
@@ -156,9 +158,7 @@ Item {
 
                 objectName: "popOverWindow"
                 title: control.accessibleName || qsTr("group")
-                // qmllint disable missing-property
-                screen: Qt.application.screens[control.activeScreenIndex] ?? null
-                // qmllint enable missing-property
+                screen: Qt.application.screens[control.activeScreenIndex] ?? null // qmllint disable missing-property
                 transientParent: control.windowParent ?? control.targetItem?.Window.window ?? null
                 flags: {
                     if (control.showWithActive) {

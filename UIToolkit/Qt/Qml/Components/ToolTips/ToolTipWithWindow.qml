@@ -6,6 +6,8 @@
     ToolTipWithWindow { tooltipText: control.tooltip; active: control.hovered && control.tooltip.length > 0 }
     \endqml
 */
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
@@ -70,7 +72,7 @@ Item {
             flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowTransparentForInput
             color: "transparent"
             transientParent: control.Window.window
-            screen: Qt.application.screens[priv.activeScreenIndex] ?? null
+            screen: Qt.application.screens[priv.activeScreenIndex] ?? null // qmllint disable missing-property
             width: Math.max(1, Math.ceil(container.width))
             height: Math.max(1, Math.ceil(container.height))
 

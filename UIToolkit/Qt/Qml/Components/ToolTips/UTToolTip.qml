@@ -188,7 +188,7 @@ Item {
         id: priv
 
         readonly property size emptySize: Qt.size(1, 1)
-        property QtObject timers: null
+        property var timers: null // ToolTipTimers
 
         function container(): Item {
             return control.tooltipWindow.contentItem.children[0];

@@ -9,6 +9,7 @@
 #include "UTEventData.h"
 #include "UTEventFilterData.h"
 #include "UTIconButtonData.h"
+#include "UTIconData.h"
 #include "UTKeyEventData.h"
 #include "UTLinkData.h"
 #include "UTListData.h"
@@ -187,4 +188,11 @@ struct UTToolTipDataTooling
     QML_NAMED_ELEMENT(UTToolTipData)
     QML_ATTACHED(UTToolTipData)
     QML_UNCREATABLE("UTToolTipData attached property.")
+};
+
+struct UTIconDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTIconData)
+    QML_ANONYMOUS
 };

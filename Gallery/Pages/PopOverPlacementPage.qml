@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0

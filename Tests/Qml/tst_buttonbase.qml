@@ -97,7 +97,8 @@ Item {
             ]);
         }
         function test_tooltipText(row) {
-            compare(Script.tooltipText({ text: "Label", tooltip: row.tooltip, isTextEilded: row.isTextEilded }), row.shown);
+            const button = { text: "Label", tooltip: row.tooltip, isTextEilded: row.isTextEilded };
+            compare(Script.tooltipText(button), row.shown);
         }
         function test_accessibleName() {
             const button = make("UTPillButton", { tooltip: "Tip" });

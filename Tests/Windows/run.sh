@@ -13,6 +13,7 @@ if [ -n "$missing" ]; then
 fi
 
 export QT_QPA_PLATFORM=xcb QT_QUICK_BACKEND=software QT_LINUX_ACCESSIBILITY_ALWAYS_ON=0
+# shellcheck disable=SC2016 # the inner shell expands it
 exec env -u WAYLAND_DISPLAY xvfb-run -a -s "-screen 0 1280x800x24" sh -c '
     openbox >/dev/null 2>&1 &
     manager=$!

@@ -223,8 +223,8 @@ Item {
                     readonly property int horizontalArrow: arrowAnchor === UTPopOverEnum.Left || arrowAnchor === UTPopOverEnum.Right ? arrowSize : 0
                     readonly property int verticalArrow: arrowAnchor === UTPopOverEnum.Top || arrowAnchor === UTPopOverEnum.Bottom ? arrowSize : 0
 
-                    width: Math.max(1, contentLoader.width + horizontalArrow)
-                    height: Math.max(1, contentLoader.height + verticalArrow)
+                    width: Math.max(1, contentScope.width + horizontalArrow)
+                    height: Math.max(1, contentScope.height + verticalArrow)
                     arrowAnchor: popOverWindow.UTPopOverData.arrowAnchor
                     arrowAlignment: popOverWindow.UTPopOverData.arrowAlignment
                     arrowOffset: popOverWindow.UTPopOverData.arrowOffset
@@ -242,18 +242,28 @@ Item {
                         control.popoverEscapePressed();
                     }
 
-                    Loader {
-                        id: contentLoader
+                    // Not a Loader, which on Qt 6.4 refuses a component that is bound to its file.
+                    FocusScope {
+                        id: contentScope
+
+                        readonly property Component component: control.content
+                        property Item item: null
+
+                        function load(): void {
+                            item?.destroy();
+                            item = component?.createObject(contentScope) as Item ?? null;
+                            if (item)
+                                item.focus = true;
+                            Qt.callLater(popOverWindow.takeSize);
+                        }
 
                         x: balloon.arrowAnchor === UTPopOverEnum.Left ? balloon.arrowSize : 0
                         y: balloon.arrowAnchor === UTPopOverEnum.Top ? balloon.arrowSize : 0
+                        width: item?.width ?? 0
+                        height: item?.height ?? 0
                         focus: true
-                        sourceComponent: control.content
 
-                        onLoaded: {
-                            item.focus = true;
-                            Qt.callLater(popOverWindow.takeSize);
-                        }
+                        onComponentChanged: load()
                     }
                 }
             }

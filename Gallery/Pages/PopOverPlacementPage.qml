@@ -27,6 +27,7 @@ GalleryPage {
     ]
 
     readonly property var settings: [anchor.currentIndex, alignment.currentIndex, size.currentIndex, offset.value, balloonWidth.value, balloonHeight.value]
+    readonly property int wantedAnchor: UTPopOverEnum[anchor.value]
 
     onSettingsChanged: Qt.callLater(map.place)
     Component.onCompleted: map.place()
@@ -37,29 +38,52 @@ GalleryPage {
         // The real screen, drawn to scale.
         readonly property real factor: width / screenRect.width
         readonly property rect screenRect: Qt.rect(Screen.virtualX, Screen.virtualY, Math.max(1, Screen.width), Math.max(1, Screen.height))
+        readonly property rect targetRect: Qt.rect(screenRect.x + Math.round(target.x / factor), screenRect.y + Math.round(target.y / factor),
+                                                   Math.round(target.width / factor), Math.round(target.height / factor))
 
         function place(): void {
-            const balloonSize = Qt.size(balloonWidth.value, balloonHeight.value);
+            const data = ghost.UTPopOverData;
             // A placing rewrites the side, so each begins from the one asked for.
-            ghost.UTPopOverData.arrowAnchor = UTPopOverEnum[anchor.value];
-            ghost.UTPopOverData.popOverSize = Qt.size(0, 0);
-            ghost.UTPopOverData.arrowAnchor = UTPopOverEnum[anchor.value];
-            ghost.UTPopOverData.targetItemRect = Qt.rect(screenRect.x + target.x / factor, screenRect.y + target.y / factor,
-                                                         target.width / factor, target.height / factor);
-            ghost.UTPopOverData.arrowAnchor = UTPopOverEnum[anchor.value];
-            ghost.UTPopOverData.popOverSize = balloonSize;
+            data.popOverSize = Qt.size(0, 0);
+            data.arrowAnchor = page.wantedAnchor;
+            data.targetItemRect = targetRect;
+            data.arrowAnchor = page.wantedAnchor;
+            data.popOverSize = Qt.size(balloonWidth.value, balloonHeight.value);
+            looseWindow.follow();
+        }
+
+        //! Moves the target to \a globalX, \a globalY of the real screen.
+        function moveTo(globalX: int, globalY: int): void {
+            target.x = (globalX - screenRect.x) * factor;
+            target.y = (globalY - screenRect.y) * factor;
         }
 
         width: parent.width
         height: Math.round(width * screenRect.height / screenRect.width)
+        clip: true
 
-        GalleryText {
-            anchors.centerIn: parent
-            text: qsTr("%1 × %2 pixels").arg(map.screenRect.width).arg(map.screenRect.height)
-            textColorSetName: "text-secondary"
+        Column {
+            anchors {
+                left: parent.left
+                bottom: parent.bottom
+                margins: Metrics.large
+            }
+            spacing: 2
+
+            GalleryText {
+                text: qsTr("A screen of %1 × %2 pixels").arg(map.screenRect.width).arg(map.screenRect.height)
+                textColorSetName: "text-secondary"
+            }
+            GalleryText {
+                text: qsTr("popOverPosition %1, %2; arrowAnchor %3; arrowOffset %4").arg(ghost.UTPopOverData.popOverPosition.x)
+                    .arg(ghost.UTPopOverData.popOverPosition.y).arg(ghost.side).arg(ghost.UTPopOverData.arrowOffset)
+                textColorSetName: "text-secondary"
+            }
         }
         KBalloon {
             id: ghost
+
+            readonly property string side: anchor.options[UTPopOverData.arrowAnchor]
 
             UTPopOverData.arrowAlignment: UTPopOverEnum[alignment.value]
             UTPopOverData.arrowVisible: true
@@ -68,25 +92,16 @@ GalleryPage {
 
             x: (UTPopOverData.popOverPosition.x - map.screenRect.x) * map.factor
             y: (UTPopOverData.popOverPosition.y - map.screenRect.y) * map.factor
-            width: UTPopOverData.popOverSize.width
-            height: UTPopOverData.popOverSize.height
-            scale: map.factor
-            transformOrigin: Item.TopLeft
+            width: UTPopOverData.popOverSize.width * map.factor
+            height: UTPopOverData.popOverSize.height * map.factor
             arrowAnchor: UTPopOverData.arrowAnchor
             arrowAlignment: UTPopOverData.arrowAlignment
-            arrowOffset: UTPopOverData.arrowOffset
-            arrowSize: UTPopOverData.arrowSize
-            radius: UTPopOverData.radius
+            arrowOffset: UTPopOverData.arrowOffset * map.factor
+            arrowSize: UTPopOverData.arrowSize * map.factor
+            radius: UTPopOverData.radius * map.factor
             backgroundColor: (ThemeManager.globalTheme, App.getColorSet("popover-primary-background").normal)
             borderColor: (ThemeManager.globalTheme, App.getColorSet("text-secondary").normal)
-            onArrowAnchorChanged: page.log(qsTr("the arrow is on side %1").arg(["None", "Top", "Bottom", "Left", "Right"][arrowAnchor]))
-
-            GalleryText {
-                anchors.centerIn: parent
-                horizontalAlignment: Text.AlignHCenter
-                text: qsTr("%1, %2\noffset %3").arg(ghost.UTPopOverData.popOverPosition.x).arg(ghost.UTPopOverData.popOverPosition.y)
-                    .arg(ghost.UTPopOverData.arrowOffset)
-            }
+            onSideChanged: Qt.callLater(page.log, qsTr("the arrow is on side %1").arg(side))
         }
         KRectangle {
             id: target
@@ -119,20 +134,66 @@ GalleryPage {
     }
     Playground {
         UTPillButton {
-            text: qsTr("A real one: drag me")
+            text: looseWindow.visible ? qsTr("Take the target off the screen") : qsTr("Put the target on the real screen")
             buttonStyle: UTButtonStyle.Secondary
-            onClicked: real.active = !real.active
-            onXChanged: real.updatePosition()
-            onYChanged: real.updatePosition()
+            onClicked: {
+                looseWindow.visible = !looseWindow.visible;
+                map.place();
+            }
+        }
+    }
 
-            DragHandler {}
+    // The target itself, where the map shows it: it can be dragged there as well, and a real pop-over points at it.
+    Window {
+        id: looseWindow
+
+        function follow(): void {
+            if (!visible)
+                return;
+            x = map.targetRect.x;
+            y = map.targetRect.y;
+            if (!real.windowComponentInstance)
+                return;
+            real.windowComponentInstance.UTPopOverData.arrowAnchor = page.wantedAnchor;
+            real.updatePosition();
+        }
+
+        width: map.targetRect.width
+        height: map.targetRect.height
+        flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
+        title: qsTr("Target")
+        color: "transparent"
+
+        KRectangle {
+            id: handle
+
+            width: looseWindow.width
+            height: looseWindow.height
+            backgroundColorSetName: target.backgroundColorSetName
+
+            GalleryText {
+                anchors.centerIn: parent
+                text: qsTr("Drag me")
+                textColorSetName: "button-accent-fill-text"
+            }
+            DragHandler {
+                target: null
+                onCentroidChanged: {
+                    if (!active)
+                        return;
+                    const pointer = handle.mapToGlobal(centroid.scenePosition);
+                    map.moveTo(pointer.x - centroid.scenePressPosition.x, pointer.y - centroid.scenePressPosition.y);
+                }
+            }
             UTPopOver {
                 id: real
 
-                arrowAnchor: UTPopOverEnum[anchor.value]
+                active: looseWindow.visible
                 arrowAlignment: UTPopOverEnum[alignment.value]
+                arrowAnchor: page.wantedAnchor
                 popOverSize: UTPopOverEnum[size.value]
                 arrowOffset: offset.value
+                popOverMargin: 0
                 showWithActive: false
                 automaticClose: false
                 content: Item {

@@ -1,7 +1,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Korvu 1.0
 import UIToolkitQml 1.0
+import UIToolkitQml_Private_Data 1.0
+import UiElements 1.0
 import Gallery
 
 GalleryPage {
@@ -103,6 +106,73 @@ GalleryPage {
                         bottomPadding: 8
                         text: qsTr("Gone half a second after the pointer.")
                         textColorSetName: "label-primary-text"
+                    }
+                }
+            }
+        }
+    }
+
+    Sheet {
+        title: qsTr("Where the arrow sits")
+        text: qsTr("Small and medium. Where the arrow points, there is the middle of the target.")
+        minimumCellWidth: 200
+
+        Repeater {
+            model: [
+                { anchor: "Top", alignment: "LeftAlignment" },
+                { anchor: "Top", alignment: "CenterAlignment" },
+                { anchor: "Top", alignment: "RightAlignment" },
+                { anchor: "Bottom", alignment: "LeftAlignment" },
+                { anchor: "Bottom", alignment: "CenterAlignment" },
+                { anchor: "Bottom", alignment: "RightAlignment" },
+                { anchor: "Left", alignment: "TopAlignment" },
+                { anchor: "Left", alignment: "CenterAlignment" },
+                { anchor: "Left", alignment: "BottomAlignment" },
+                { anchor: "Right", alignment: "TopAlignment" },
+                { anchor: "Right", alignment: "CenterAlignment" },
+                { anchor: "Right", alignment: "BottomAlignment" },
+                { anchor: "None", alignment: "CenterAlignment" }
+            ]
+
+            Cell {
+                id: shapeCell
+
+                required property var modelData
+
+                label: modelData.anchor === "None" ? "None" : "%1, %2".arg(modelData.anchor).arg(modelData.alignment)
+                stageHeight: 104
+                stageColorSetName: "modal-secondary-background"
+
+                Row {
+                    spacing: Metrics.small
+
+                    Repeater {
+                        model: ["Small", "Medium"]
+
+                        KBalloon {
+                            id: shape
+
+                            required property string modelData
+                            readonly property bool isBeside: arrowAnchor === UTPopOverEnum.Left || arrowAnchor === UTPopOverEnum.Right
+
+                            UTPopOverData.arrowVisible: true
+                            UTPopOverData.size: UTPopOverEnum[modelData]
+
+                            width: 68 + (isBeside ? arrowSize : 0)
+                            height: 56 + (isBeside ? 0 : arrowSize)
+                            arrowAnchor: UTPopOverEnum[shapeCell.modelData.anchor]
+                            arrowAlignment: UTPopOverEnum[shapeCell.modelData.alignment]
+                            arrowSize: UTPopOverData.arrowSize
+                            radius: UTPopOverData.radius
+                            backgroundColor: (ThemeManager.globalTheme, App.getColorSet("popover-primary-background").normal)
+                            borderColor: (ThemeManager.globalTheme, App.getColorSet("list-header-outline-secondary").normal)
+
+                            GalleryText {
+                                anchors.centerIn: parent
+                                text: shape.modelData
+                                font: FontConstants.tagLabelTertiary
+                            }
+                        }
                     }
                 }
             }

@@ -4,6 +4,8 @@
 
 #include "AccessibleItems.h"
 #include "App.h"
+#include "DynamicImageProvider.h"
+#include "DynamicSource.h"
 #include "EmojiImageProvider.h"
 #include "EmojiText.h"
 #include "KFont.h"
@@ -20,6 +22,8 @@ void KorvuHost::install(QQmlEngine *engine)
     const QString emojiProvider = QLatin1StringView(EmojiText::imageProviderId);
     if (!engine->imageProvider(emojiProvider))
         engine->addImageProvider(emojiProvider, new EmojiImageProvider);
+    if (!engine->imageProvider(DynamicSource::providerId()))
+        engine->addImageProvider(DynamicSource::providerId(), new DynamicImageProvider);
     if (!engine->imageProvider(KSvgImageProvider::providerId()))
         engine->addImageProvider(KSvgImageProvider::providerId(), new KSvgImageProvider);
 }

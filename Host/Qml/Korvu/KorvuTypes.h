@@ -10,11 +10,16 @@
 #include "AccessibleMonitor.h"
 #include "App.h"
 #include "KColorSet.h"
+#include "KCoverImageController.h"
 #include "KKeyEvent.h"
 #include "KKeySequence.h"
+#include "KMovieImage.h"
+#include "KMovieProvider.h"
+#include "MediaPolicy.h"
 #include "ThemeManager.h"
 #include "ToolTipWindowManager.h"
 #include "UIToolKitUtils.h"
+#include "UTAccessible.h"
 #include "UTPopOverModel.h"
 #include "Utils.h"
 
@@ -86,6 +91,62 @@ struct ToolTipWindowManagerType
 
 public:
     static ToolTipWindowManager *create(QQmlEngine *, QJSEngine *) { return sharedInstance<ToolTipWindowManager>(); }
+};
+
+struct MediaPolicyType
+{
+    Q_GADGET
+    QML_FOREIGN(MediaPolicy)
+    QML_NAMED_ELEMENT(MediaPolicy)
+    QML_SINGLETON
+
+public:
+    static MediaPolicy *create(QQmlEngine *, QJSEngine *) { return sharedInstance<MediaPolicy>(); }
+};
+
+// Its QML name belongs to another module.
+struct MovieType
+{
+    Q_GADGET
+    QML_FOREIGN(QMovie)
+    QML_ANONYMOUS
+};
+
+struct KMovieProviderType
+{
+    Q_GADGET
+    QML_FOREIGN(KMovieProvider)
+    QML_NAMED_ELEMENT(KMovieProvider)
+};
+
+struct KMovieImageType
+{
+    Q_GADGET
+    QML_FOREIGN(KMovieImage)
+    QML_NAMED_ELEMENT(KMovieImage)
+};
+
+struct KCoverImageControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(KCoverImageController)
+    QML_NAMED_ELEMENT(KCoverImageController)
+};
+
+struct UTAccessibleInfoType
+{
+    Q_GADGET
+    QML_FOREIGN(UTAccessibleInfo)
+    QML_ANONYMOUS
+};
+
+struct UTAccessibleType
+{
+    Q_GADGET
+    QML_FOREIGN(UTAccessible)
+    QML_NAMED_ELEMENT(UTAccessible)
+    QML_ATTACHED(UTAccessible)
+    QML_UNCREATABLE("UTAccessible attached property.")
 };
 
 struct KKeyEventType

@@ -13,6 +13,7 @@
 #include "UTColorSetData.h"
 #include "UTDiscoverabilityEnum.h"
 #include "UTDynamicResource.h"
+#include "UTDynamicResourceData.h"
 #include "UTEventData.h"
 #include "UTEventFilterData.h"
 #include "UTIconButtonData.h"
@@ -36,6 +37,7 @@
 #include "UTTextButtonEnum.h"
 #include "UTToolTipData.h"
 #include "UTTooltipEnum.h"
+#include "UTWatermarkData.h"
 #include "UTWatermarkEnum.h"
 
 #include <QMovie>
@@ -81,10 +83,10 @@ void DataRegistration::registerAll(const char *uri)
     registerAttached<AwaitedData>("UTCallControlButtonData");
     registerAttached<UTBlockButtonData>("UTBlockButtonData");
     registerAttached<UTColorSetData>("UTColorSetData");
-    registerAttached<AwaitedData>("UTWatermarkData");
+    registerAttached<UTWatermarkData>("UTWatermarkData");
     registerAttached<UTRichTextAreaData>("UTRichTextAreaData");
     registerAttached<UTToolTipData>("UTToolTipData");
-    registerAttached<AwaitedData>("UTDynamicResourceData");
+    registerAttached<UTDynamicResourceData>("UTDynamicResourceData");
     registerAttached<UTKeyEventData>("UTKeyEventData");
     registerAttached<UTEventFilterData>("UTEventFilterData");
     registerAttached<UTShortcutOverride>("UTShortcutOverride");

@@ -6,6 +6,7 @@
 #include "UTChipData.h"
 #include "UTColorData.h"
 #include "UTColorSetData.h"
+#include "UTDynamicResourceData.h"
 #include "UTEventData.h"
 #include "UTEventFilterData.h"
 #include "UTIconButtonData.h"
@@ -22,6 +23,7 @@
 #include "UTShortcutOverride.h"
 #include "UTTextButtonData.h"
 #include "UTToolTipData.h"
+#include "UTWatermarkData.h"
 
 #include <QtQml/qqml.h>
 
@@ -195,4 +197,22 @@ struct UTIconDataTooling
     Q_GADGET
     QML_FOREIGN(UTIconData)
     QML_ANONYMOUS
+};
+
+struct UTDynamicResourceDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTDynamicResourceData)
+    QML_NAMED_ELEMENT(UTDynamicResourceData)
+    QML_ATTACHED(UTDynamicResourceData)
+    QML_UNCREATABLE("UTDynamicResourceData attached property.")
+};
+
+struct UTWatermarkDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTWatermarkData)
+    QML_NAMED_ELEMENT(UTWatermarkData)
+    QML_ATTACHED(UTWatermarkData)
+    QML_UNCREATABLE("UTWatermarkData attached property.")
 };

@@ -1,0 +1,6 @@
+#include "UTAccessible.h"
+
+UTAccessible::UTAccessible(QObject *attachee)
+    : QObject(attachee)
+{
+}

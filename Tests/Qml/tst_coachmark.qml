@@ -78,7 +78,7 @@ ToolkitTestCase {
         mark.contentDelegate = bar;
         compare(place(mark, "objectName", "bar").width, 256);
         compare(place(mark, "text", full.primaryText).height, 0);
-        mark.contentDelegate = undefined;
+        mark.contentDelegate = "no component";
         tryVerify(() => place(mark, "text", full.primaryText).height > 200);
     }
 

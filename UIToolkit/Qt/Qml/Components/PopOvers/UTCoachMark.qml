@@ -54,7 +54,7 @@ KBalloon {
     //! Handed over by hyperLinkClicked; nothing is opened here.
     property string hyperLinkUrl
     property string themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
-    //! A Component shown in place of the description.
+    //! A Component of an Item, shown in place of the description; anything else is none.
     property var contentDelegate
     //! A picture, which may be animated; empty for none.
     property string previewImageSource
@@ -309,7 +309,8 @@ KBalloon {
 
         function makeContent(): void {
             custom.item?.destroy();
-            custom.item = control.contentDelegate?.createObject(custom) ?? null;
+            const delegate = control.contentDelegate as Component;
+            custom.item = delegate ? delegate.createObject(custom) as Item : null;
             if (custom.item)
                 custom.item.width = Qt.binding(() => custom.width);
         }

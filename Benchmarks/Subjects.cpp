@@ -35,7 +35,9 @@ Listing readListing()
             continue;
         if (words.first() == "singleton"_L1)
             listing.singletons << words.value(1);
-        else if (words.first() != "internal"_L1)
+        else if (words.first() == "internal"_L1)
+            listing.components.removeOne(words.value(1)); // Qt 6.4 lists these twice
+        else
             listing.components << words.first();
     }
     return listing;

@@ -41,6 +41,31 @@ Window {
         DSvgButton { text: "Plain with icon"; icon.name: "plus-bold"; onClicked: scene.tell(this, "pressed") }
         DSvgIconButton { iconName: "plus-bold"; tooltip: "Plain icon"; onClicked: scene.tell(this, "pressed") }
         UTChip { text: "Chip"; onClicked: scene.tell(this, "pressed") }
+        UTCallControlButton { leftIcon: "chat-bold"; leftName: "Call control"; badgeText: "3"; onLeftClicked: scene.tell(leftButton, "pressed") }
+        UTCallControlButton {
+            buttonType: UTCallControlButtonEnum.DualArrow
+            text: "Call control group"
+            leftIcon: "video-bold"
+            leftAccessibleName: "Left half"
+            leftCheckable: true
+            rightName: "Right half"
+            onLeftToggled: scene.tell(leftButton, leftChecked ? "on" : "off")
+            onRightClicked: scene.tell(rightButton, "pressed")
+        }
+        UTToggleButton {
+            leftIcon: "list-bulleted-bold"; leftAccessibleName: "Left toggle"; leftAccessibleDescription: "A list"
+            rightIcon: "columns-bold"; rightAccessibleName: "Right toggle"
+            rightButton.checked: true
+            leftButton.announceStateChange: false
+            leftButton.onToggled: scene.tell(leftButton, "on")
+        }
+        UTDualButton {
+            text: "Dual"; leftIconName: "minus-bold"
+            rightIconName: "plus-bold"; rightAccessibleName: "Dual, right half"
+            onLeftClicked: scene.tell(leftButton, "pressed")
+            onRightClicked: scene.tell(rightButton, "pressed")
+        }
+        UTDualIconButton { leftAccessibleName: "Dual icon"; rightAccessibleName: "Second dual icon"; onLeftClicked: scene.tell(leftButton, "pressed") }
         UTPillButton { text: "Unread"; accessibleText: "None unread"; onClicked: accessibleText = "Two unread" }
     }
 }

@@ -184,11 +184,13 @@ void tst_Types::types_data()
     QFile listing(u":/qt/qml/UIToolkitQml/qmldir"_s);
     QVERIFY(listing.open(QIODevice::ReadOnly));
     static const QRegularExpression entry(u"^(\\w+) 1\\.0 (\\w+)\\.qml$"_s, QRegularExpression::MultilineOption);
-    QRegularExpressionMatchIterator it = entry.globalMatch(QString::fromUtf8(listing.readAll()));
+    const QString listed = QString::fromUtf8(listing.readAll());
+    QRegularExpressionMatchIterator it = entry.globalMatch(listed);
     while (it.hasNext()) {
         const QRegularExpressionMatch match = it.next();
         QCOMPARE(match.captured(1), match.captured(2));
-        if (!names.contains(match.captured(1))) {
+        // Qt 6.4 lists internal types twice.
+        if (!names.contains(match.captured(1)) && !listed.contains(u"\ninternal %1 "_s.arg(match.captured(1)))) {
             QTest::newRow(qPrintable(match.captured(1)))
                 << u"UIToolkitQml"_s << match.captured(1) << true << false << static_cast<const QMetaObject *>(nullptr);
         }

@@ -6,6 +6,7 @@
 #include "UTButtonSize.h"
 #include "UTButtonStyle.h"
 #include "UTButtonType.h"
+#include "UTCallControlButtonData.h"
 #include "UTCallControlButtonEnum.h"
 #include "UTChipData.h"
 #include "UTChipStyle.h"
@@ -80,7 +81,7 @@ void DataRegistration::registerAll(const char *uri)
     registerAttached<UTIconButtonData>("UTIconButtonData");
     registerAttached<UTChipData>("UTChipData");
     registerAttached<UTPopOverData>("UTPopOverData");
-    registerAttached<AwaitedData>("UTCallControlButtonData");
+    registerAttached<UTCallControlButtonData>("UTCallControlButtonData");
     registerAttached<UTBlockButtonData>("UTBlockButtonData");
     registerAttached<UTColorSetData>("UTColorSetData");
     registerAttached<UTWatermarkData>("UTWatermarkData");

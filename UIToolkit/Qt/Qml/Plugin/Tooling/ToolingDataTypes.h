@@ -3,6 +3,7 @@
 // The native data types as the tools see them; see ToolingTypes.h for why this is a file of its own.
 
 #include "UTBlockButtonData.h"
+#include "UTCallControlButtonData.h"
 #include "UTChipData.h"
 #include "UTColorData.h"
 #include "UTColorSetData.h"
@@ -26,6 +27,15 @@
 #include "UTWatermarkData.h"
 
 #include <QtQml/qqml.h>
+
+struct UTCallControlButtonDataTooling
+{
+    Q_GADGET
+    QML_FOREIGN(UTCallControlButtonData)
+    QML_NAMED_ELEMENT(UTCallControlButtonData)
+    QML_ATTACHED(UTCallControlButtonData)
+    QML_UNCREATABLE("UTCallControlButtonData attached property.")
+};
 
 struct UTColorSetDataTooling
 {

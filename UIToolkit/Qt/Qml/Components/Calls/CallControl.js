@@ -1,0 +1,115 @@
+.pragma library
+.import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as ButtonBase
+
+// What UTCallControlButton and its wrapper do. It is apart because each function in a component costs each of its
+// instances.
+
+// A half that was activated: "left" or "right". Qt lets a half that is checked be checkable, asked for or not.
+function clicked(control, side, half) {
+    if (!half.checkable)
+        control[side + "Clicked"]();
+}
+
+function toggled(control, side, half) {
+    if (control[side + "Checkable"]) {
+        if (control[side + "Checked"] !== half.checked)
+            control[side + "Checked"] = half.checked;
+        control[side + "Toggled"]();
+    } else {
+        half.checked = Qt.binding(() => control[side + "Checked"]);
+        control[side + "Clicked"]();
+    }
+}
+
+// The right half of \a control, beside \a left, after its \a metrics. A script cannot name a \a corner itself.
+function makeRightHalf(control, left, metrics, corner) {
+    const wash = isChecked => !metrics.rightButtonVisible ? ""
+        : isChecked ? metrics.checkedBackgroundColorSetName : metrics.backgroundColorSetName;
+    const right = ButtonBase.needPart(left, "rightHalf", "PillHalf", {
+        x: () => left.mirrored ? 0 : control.width - (control.rightButton?.width ?? 0),
+        width: () => control.rightButton?.naturalWidth ?? 0,
+        height: () => control.height,
+        visible: () => metrics.rightButtonVisible,
+        activeFocusOnTab: () => left.activeFocusOnTab,
+        squareCorners: corner.TopLeft | corner.BottomLeft,
+        themeType: () => control.themeType,
+        textColorSet: () => control.textColorSet,
+        washColorSetName: () => wash(control.isGroundChecked || control.rightChecked),
+        iconSize: () => metrics.rightIconSize,
+        startPadding: () => metrics.rightSideLeftPadding,
+        endPadding: () => metrics.rightSideRightPadding,
+        enabled: () => control.rightEnabled,
+        checkable: () => control.rightCheckable,
+        checked: () => control.rightChecked,
+        iconName: () => control.rightIcon,
+        checkedIconName: () => control.rightCheckedIcon,
+        tooltip: () => control.rightTooltip || control.rightName,
+        accessibleName: () => control.rightAccessibleName,
+        accessibleDescription: () => control.rightAccessibleDescription,
+        announceStateChange: () => control.rightAnnouncesState,
+        accessibleText: () => control.rightStatusText
+    }, control);
+    right.clicked.connect(() => clicked(control, "right", right));
+    right.toggled.connect(() => toggled(control, "right", right));
+
+    left.squareCorners = Qt.binding(() => metrics.rightButtonVisible ? corner.TopRight | corner.BottomRight : corner.None);
+    left.washColorSetName = Qt.binding(() => wash(control.isGroundChecked || control.leftChecked));
+    left.washesChecked = Qt.binding(() => metrics.separatorVisible);
+
+    ButtonBase.needPart(right, "separator", "KRectangle", {
+        x: () => left.mirrored ? right.width - 1 : 0,
+        y: () => Math.round((right.height - metrics.separatorHeight) / 2),
+        width: 1,
+        height: () => metrics.separatorHeight,
+        visible: () => metrics.separatorVisible,
+        color: () => left.contentColor,
+        opacity: 0.3
+    }, right);
+    return right;
+}
+
+const highestCount = 99;
+
+// The actions of the wrapper, in the order of its enumeration: name, what undoes it, what is said when it is on and off,
+// the menu's name, icons, style, and the types without and with a menu. One that has a word for "on" is a state.
+const columns = ["name", "undoName", "onText", "offText", "menuName", "icon", "onIcon", "style", "type", "menuType"];
+const actions = [
+    ["", "", "", "", "", "", "", "Secondary", "Round", "DualArrow"],
+    [QT_TR_NOOP("Mute"), QT_TR_NOOP("Unmute"), QT_TR_NOOP("Muted"), QT_TR_NOOP("Unmuted"), QT_TR_NOOP("Audio settings"),
+        "microphone-bold", "microphone-muted-bold", "Secondary", "Round", "DualArrow"],
+    [QT_TR_NOOP("Stop video"), QT_TR_NOOP("Start video"), QT_TR_NOOP("Video stopped"), QT_TR_NOOP("Video started"), QT_TR_NOOP("Video settings"),
+        "video-bold", "video-muted-bold", "Secondary", "Round", "DualArrow"],
+    [QT_TR_NOOP("Share"), QT_TR_NOOP("Stop sharing"), QT_TR_NOOP("Sharing"), QT_TR_NOOP("No longer sharing"), QT_TR_NOOP("Sharing options"),
+        "share-screen-bold", "", "Secondary", "Round", "DualArrow"],
+    [QT_TR_NOOP("Captions"), QT_TR_NOOP("Hide captions"), QT_TR_NOOP("Captions shown"), QT_TR_NOOP("Captions hidden"), QT_TR_NOOP("Caption settings"),
+        "captions-bold", "captions-filled", "Secondary", "Round", "ClosedCaptions"],
+    [QT_TR_NOOP("Raise hand"), QT_TR_NOOP("Lower hand"), QT_TR_NOOP("Hand raised"), QT_TR_NOOP("Hand lowered"), QT_TR_NOOP("Reactions"),
+        "raise-hand-bold", "raise-hand-filled", "Secondary", "Round", "DualArrow"],
+    [QT_TR_NOOP("Record"), QT_TR_NOOP("Stop recording"), QT_TR_NOOP("Recording"), QT_TR_NOOP("Recording stopped"), QT_TR_NOOP("Recording options"),
+        "record-bold", "record-filled", "Secondary", "Round", "DualArrow"],
+    [QT_TR_NOOP("Speaker"), QT_TR_NOOP("Speaker off"), QT_TR_NOOP("Speaker on"), QT_TR_NOOP("Speaker off"), QT_TR_NOOP("Choose a speaker"),
+        "speaker-bold", "speaker-filled", "Secondary", "Round", "DualArrow"],
+    [QT_TR_NOOP("Keypad"), QT_TR_NOOP("Hide keypad"), QT_TR_NOOP("Keypad shown"), QT_TR_NOOP("Keypad hidden"), QT_TR_NOOP("Keypad options"),
+        "keypad-bold", "", "Ghost", "Round", "DualArrow"],
+    [QT_TR_NOOP("Participants"), QT_TR_NOOP("Hide participants"), QT_TR_NOOP("Participants shown"), QT_TR_NOOP("Participants hidden"), QT_TR_NOOP("Ways to invite"),
+        "people-bold", "people-filled", "Ghost", "Panel", "DualArrow"],
+    [QT_TR_NOOP("Chat"), QT_TR_NOOP("Hide chat"), QT_TR_NOOP("Chat shown"), QT_TR_NOOP("Chat hidden"), QT_TR_NOOP("Chat options"),
+        "chat-bold", "chat-filled", "Ghost", "Panel", "DualArrow"],
+    [QT_TR_NOOP("Assistant"), QT_TR_NOOP("Hide assistant"), QT_TR_NOOP("Assistant shown"), QT_TR_NOOP("Assistant hidden"), QT_TR_NOOP("Assistant options"),
+        "ai-sparkle-bold", "", "Ghost", "Panel", "DualArrow"],
+    [QT_TR_NOOP("Leave"), "", "", "", QT_TR_NOOP("Ways to leave"), "leave-meeting-bold", "", "Cancel", "Round", "DualArrow"],
+    [QT_TR_NOOP("End call"), "", "", "", QT_TR_NOOP("Ways to end the call"), "end-call-filled", "", "Cancel", "Round", "DualArrow"],
+    [QT_TR_NOOP("Join"), "", "", "", QT_TR_NOOP("Ways to join"), "audio-call-filled", "", "Join", "Round", "DualArrow"]
+];
+
+const texts = ["name", "undoName", "onText", "offText", "menuName"];
+
+function actionRow(action) {
+    const values = actions[action] ?? actions[0];
+    const row = {};
+    columns.forEach((column, i) => {
+        row[column] = texts.includes(column) && values[i] ? qsTr(values[i]) : values[i];
+    });
+    row.isState = row.onText.length > 0;
+    return row;
+}

@@ -95,9 +95,13 @@ void tst_Bench::everyComponentKeepsItsLimits()
     static const QRegularExpression entry(u"^(?:singleton )?(\\w+) 1\\.0 \\w+\\.qml$"_s,
                                           QRegularExpression::MultilineOption);
     int listed = 0;
-    QRegularExpressionMatchIterator match = entry.globalMatch(QString::fromUtf8(listing.readAll()));
+    const QString lines = QString::fromUtf8(listing.readAll());
+    QRegularExpressionMatchIterator match = entry.globalMatch(lines);
     for (; match.hasNext(); ++listed) {
         const QString name = match.next().captured(1);
+        // Qt 6.4 lists internal types twice.
+        if (lines.contains(u"\ninternal %1 "_s.arg(name)))
+            continue;
         QVERIFY2(reported.count(name) == 1, qPrintable(name));
     }
     QVERIFY(listed > 0);

@@ -1,5 +1,7 @@
 #include "KMovieImage.h"
 
+#include "App.h"
+
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGTexture>
@@ -47,6 +49,7 @@ KMovieImage::KMovieImage(QQuickItem *parent)
 {
     setFlag(ItemHasContents);
     watchWindow(window());
+    connect(App::instance(), &App::animationsDisabledChanged, this, &KMovieImage::updatePlaying);
 }
 
 KMovieImage::~KMovieImage() = default;
@@ -98,7 +101,8 @@ void KMovieImage::takeFrame()
 void KMovieImage::updatePlaying()
 {
     if (m_movie)
-        m_movie->setPaused(!isVisible() || !window() || !window()->isVisible());
+        m_movie->setPaused(App::instance()->animationsDisabled() || !isVisible() || !window()
+                           || !window()->isVisible());
 }
 
 void KMovieImage::watchWindow(QQuickWindow *window)

@@ -5,6 +5,8 @@
     UTMoreInfoButton { tooltip: "About presence"; moreInfoText: "Others see when you were last here." }
     \endqml
 */
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0

@@ -15,7 +15,7 @@ KSvgImage {
     //! The names of the frames up to their numbers, which begin with 0.
     property string imagePrefixName
     property int frameCount: 1
-    property int currentFrame: 0
+    property int currentFrame
     //! Milliseconds.
     property int frameDuration: 200
     //! Empty for the pictures' own colours.

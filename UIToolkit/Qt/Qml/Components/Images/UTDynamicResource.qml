@@ -5,6 +5,8 @@
     UTDynamicResource { width: 240; height: 160; imageSource: message.image; fallbackImage: "qrc:/Resources/empty-inbox.svg" }
     \endqml
 */
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private_Data 1.0
@@ -28,10 +30,10 @@ Item {
 
     UTDynamicResourceData.sourceUrl: imageSource
 
-    // Both may be active: the type of an earlier source outlives a change to a direct one.
+    // By type, 1 for an image and 2 for a film. Both may be active: the type of an earlier source outlives a change to a direct one.
     Loader {
         anchors.fill: parent
-        active: control.usesDirectImageSource || control.UTDynamicResourceData.type === 1 // UTDynamicResourceData.Image
+        active: control.usesDirectImageSource || control.UTDynamicResourceData.type === 1 // qmllint disable unresolved-type
         visible: active
         sourceComponent: KDynamicImage {
             readonly property int status: image.status
@@ -48,7 +50,7 @@ Item {
     }
     Loader {
         anchors.fill: parent
-        active: control.UTDynamicResourceData.type === 2 // UTDynamicResourceData.Gif
+        active: control.UTDynamicResourceData.type === 2 // qmllint disable unresolved-type
         visible: active
         sourceComponent: KDynamicAnimatedImage {
             source: control.resourceUrl

@@ -5,6 +5,8 @@
     UTWatermark { anchors.fill: parent; contentText: user.mail }
     \endqml
 */
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import UIToolkitQml 1.0
 import UIToolkitQml_Private_Data 1.0

@@ -5,8 +5,6 @@
     UTDynamicResource { width: 240; height: 160; imageSource: message.image; fallbackImage: "qrc:/Resources/empty-inbox.svg" }
     \endqml
 */
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private_Data 1.0
@@ -30,7 +28,9 @@ Item {
 
     UTDynamicResourceData.sourceUrl: imageSource
 
-    // By type, 1 for an image and 2 for a film. Both may be active: the type of an earlier source outlives a change to a direct one.
+    // By type, 1 for an image and 2 for a film. Both may be active: the type of an earlier source outlives a change to a
+    // direct one. The components are not bound to the file, which a Loader of Qt 6.4 would refuse.
+    // qmllint disable unqualified
     Loader {
         anchors.fill: parent
         active: control.usesDirectImageSource || control.UTDynamicResourceData.type === 1 // qmllint disable unresolved-type
@@ -59,4 +59,5 @@ Item {
             image.mirror: control.mirrorEnabled
         }
     }
+    // qmllint enable unqualified
 }

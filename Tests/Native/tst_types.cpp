@@ -88,10 +88,10 @@ QStringList describeMembers(const QMetaObject *metaObject)
         const QMetaProperty property = metaObject->property(i);
         notifiers << property.notifySignalIndex();
         // An alias of an enumeration in Qt has its type on some versions and is a number on others.
-        const bool isForeignEnum = property.isEnumType() && property.typeName()[0] == 'Q';
+        const QString type = plainName(property.typeName());
+        const bool isForeignEnum = type.startsWith(u'Q') && type.contains("::"_L1);
         properties << u"%1property %2 %3"_s.arg(property.isWritable() ? ""_L1 : "readonly "_L1,
-                                                isForeignEnum ? u"int"_s : plainName(property.typeName()),
-                                                QLatin1StringView(property.name()));
+                                                isForeignEnum ? u"int"_s : type, QLatin1StringView(property.name()));
     }
     QStringList methods;
     for (int i = metaObject->methodOffset(); i < metaObject->methodCount(); ++i) {

@@ -28,6 +28,7 @@ void tst_MoreInfoButton::keyboard()
     QQuickItem *const button = item("button");
     const auto isOpen = [button] { return button->property("popupActive").toBool(); };
     for (int time = 0; time < 2; ++time) {
+        QVERIFY(activate(window()));
         QVERIFY(user(QStringLiteral("key space")));
         EVENTUALLY(isOpen() && !otherWindows().isEmpty());
         const QQuickWindow *const balloon = otherWindows().constFirst();

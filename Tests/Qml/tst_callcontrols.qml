@@ -2,6 +2,7 @@ import QtQuick
 import QtTest
 import Korvu 1.0
 import UIToolkitQml 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 Item {
     id: stage
@@ -58,12 +59,16 @@ Item {
 
         function test_names() {
             const button = make("UTCallControlButton", split);
-            compareProperties(button, { "leftButton.tooltip": "Mute", "rightButton.tooltip": "Stop video" });
+            const tips = () => [button.leftButton, button.rightButton].map(Script.tooltipText).join();
+            compare(tips(), "Mute,Stop video");
             compareProperties(button.Accessible, { role: Accessible.Grouping, name: "Mute" });
             button.badgeText = "3";
-            compare(button.leftButton.accessibleDescription, "3");
+            compare(button.leftButton.Accessible.description, "3");
             button.leftAccessibleName = "Mute me";
-            compare(button.leftButton.Accessible.name, "Mute me");
+            compareProperties(button, { "leftButton.text": "Mute me", "leftButton.Accessible.name": "Mute me" });
+            compare(tips(), "Mute,Stop video");
+            button.leftTooltip = "Unmute";
+            compare(tips(), "Unmute,Stop video");
             button.leftAccessibleDescription = "Three are waiting";
             compare(button.leftButton.Accessible.description, "Three are waiting");
         }
@@ -93,6 +98,7 @@ Item {
             button.width = 100; // the left half takes the rest
             compareProperties(button, { "leftButton.width": 58, "rightButton.width": 42 });
 
+            verify(make("UTCallControlButton", { buttonType: UTCallControlButtonEnum.ClosedCaptions, leftIcon: "captions-bold" }).rightButton.visible);
             button.buttonType = UTCallControlButtonEnum.Round;
             verify(!button.rightButton.visible);
             compareProperties(button, { implicitWidth: 40, "leftButton.width": 100 });
@@ -100,9 +106,13 @@ Item {
             compare(button.implicitWidth, 40, "round without a label");
             button.text = "People";
             verify(button.implicitWidth > 16 + 20 + 6 + 16);
+            button.width = 200;
+            compare(Script.tooltipText(button.leftButton), "", "the label is to be seen");
+            button.width = 60;
+            tryCompare(button.leftButton, "isTextEilded", true);
             button.showText = false;
             compare(button.implicitWidth, 40);
-            compare(button.leftButton.Accessible.name, "Mute");
+            compareProperties(button.leftButton, { text: "People", isTextEilded: true });
         }
 
         function test_unknownNumbers() {
@@ -125,7 +135,7 @@ Item {
             }
             compare(announced.count, 0);
             button.isOn = true;
-            compareProperties(button, { "leftButton.checked": true, "leftButton.tooltip": "Unmute", "leftButton.Accessible.name": "Mute" });
+            compareProperties(button, { "leftButton.checked": true, "leftButton.tooltip": "Unmute", "leftButton.text": "Mute" });
             compare(announced.signalArguments[0][0], "Muted");
             compare(emitted(button, signals, () => mouseClick(button.rightButton)), "menuRequested");
             compare(button.rightButton.checked, false);
@@ -134,7 +144,7 @@ Item {
             button.count = 120;
             compareProperties(button, { badgeText: "99+", leftAccessibleDescription: "120 new" });
             button.action = UTCallControlButtonWrapper.Action.Leave;
-            compareProperties(button, { leftChecked: false, buttonStyle: UTCallControlButtonEnum.Cancel });
+            compareProperties(button, { leftChecked: false, "leftButton.checked": false, buttonStyle: UTCallControlButtonEnum.Cancel });
             compare(emitted(button, signals, () => mouseClick(button.leftButton)), "triggered");
         }
 

@@ -28,8 +28,6 @@ UTButtonBase {
     //! In place of iconName while checked; empty for the same.
     property string checkedIconName
     property size iconSize: Qt.size(16, 16)
-    //! A value of UTSvgResource.ImagePrefixType.
-    property int iconPrefixType: UTSvgResource.ImagePrefixType.Svg
     //! A second icon, between the first one and the label.
     property string secondIconName
     property size secondIconSize: Qt.size(16, 16)
@@ -46,13 +44,11 @@ UTButtonBase {
     property int squareCorners: KBasicFocusItem.RectangularCorner.None
     //! What the half is washed with while it is hovered, pressed or checked; empty for nothing.
     property string washColorSetName
-    //! Whether being checked is a reason for the wash.
-    property bool washesChecked: true
     property kColorSet textColorSet
 
     readonly property color contentColor: ThemeUtils.getColor(controlsTarget, textColorSet)
     readonly property bool isLit: washColorSetName.length > 0
-        && (controlsTarget.hovered || controlsTarget.pressed || controlsTarget.checked && washesChecked)
+        && (controlsTarget.hovered || controlsTarget.pressed || controlsTarget.checked)
     //! The label, once there has been a text.
     property Text label: null
     readonly property real iconRoom: iconName.length > 0 || !label ? iconSize.width : 0
@@ -89,7 +85,16 @@ UTButtonBase {
             svgColor: () => half.contentColor
         }, half);
     }
-    onIsLitChanged: Script.needPart(half, "wash", "PillHalfWash", { half: half }, half)
+    onIsLitChanged: {
+        Script.needPart(half, "wash", "PillHalfWash", {
+            half: half,
+            corners: () => half.squareCorners,
+            isShown: () => half.isLit,
+            themeType: () => half.themeType,
+            controlsTarget: () => half.controlsTarget,
+            backgroundColorSetName: () => half.washColorSetName
+        }, half);
+    }
 
     UTSvgResource {
         x: half.mirrored ? half.width - half.start - width : half.start
@@ -97,9 +102,7 @@ UTButtonBase {
         width: half.iconSize.width
         height: half.iconSize.height
         sourceSize: half.iconSize
-        imagePrefixType: half.iconPrefixType
         svgName: half.controlsTarget.checked && half.checkedIconName.length > 0 ? half.checkedIconName : half.iconName
-        pngName: svgName
         svgColor: half.contentColor
     }
 

@@ -2,15 +2,22 @@
     What lies over one half of a pill while that half is hovered, pressed or checked, made when first shown.
 
     \qml
-    PillHalfWash { half: control }
+    PillHalfWash { half: control; corners: control.squareCorners; isShown: control.hovered }
     \endqml
 */
 import QtQuick
+import UIToolkitQml_Private 1.0
 
 Item {
     id: wash
 
-    required property PillHalf half
+    required property UTButtonBase half
+    //! The corners where the half joins the other one: KBasicFocusItem.RectangularCorner.
+    property int corners: 0
+    property bool isShown: true
+    property alias themeType: shape.themeType
+    property alias controlsTarget: shape.controlsTarget
+    property alias backgroundColorSetName: shape.backgroundColorSetName
 
     readonly property int topLeft: KBasicFocusItem.RectangularCorner.TopLeft
     readonly property int topRight: KBasicFocusItem.RectangularCorner.TopRight
@@ -20,7 +27,7 @@ Item {
 
     // How far the shape reaches out over a side whose corners are square, to be cut off there.
     function overhang(sideCorners: int): real {
-        return (half.squareCorners & sideCorners) === sideCorners ? shape.radius : 0;
+        return (corners & sideCorners) === sideCorners ? shape.radius : 0;
     }
 
     readonly property real startOverhang: overhang(topLeft | bottomLeft)
@@ -35,8 +42,8 @@ Item {
     z: -1
     width: half.width - x - (rightOverhang > 0 ? 0 : inset)
     height: half.height - y - (bottomOverhang > 0 ? 0 : inset)
-    visible: half.isLit
-    clip: half.squareCorners !== KBasicFocusItem.RectangularCorner.None
+    visible: isShown
+    clip: corners !== KBasicFocusItem.RectangularCorner.None
 
     KRectangle {
         id: shape
@@ -46,8 +53,5 @@ Item {
         width: wash.width + wash.leftOverhang + wash.rightOverhang
         height: wash.height + wash.topOverhang + wash.bottomOverhang
         radius: Math.min(wash.half.width, wash.half.height) / 2 - wash.inset
-        themeType: wash.half.themeType
-        controlsTarget: wash.half.controlsTarget
-        backgroundColorSetName: wash.half.washColorSetName
     }
 }

@@ -16,31 +16,59 @@ function toggled(control, side, half) {
             control[side + "Checked"] = half.checked;
         control[side + "Toggled"]();
     } else {
-        half.checked = Qt.binding(() => control[side + "Checked"]);
+        half.checked = control[side + "Checked"];
         control[side + "Clicked"]();
     }
 }
 
-// The right half of \a control, beside \a left, after its \a metrics. A script cannot name a \a corner itself.
+// Gives \a control the label and the right half that its type, after its \a metrics, and its text ask for. A script cannot
+// name a \a corner itself.
+function arrange(control, left, metrics, corner) {
+    metrics.showText = control.showText && control.text.length > 0 && metrics.canShowText;
+    if (metrics.showText && !left.parts?.label) {
+        ButtonBase.needPart(left, "label", "CallControlLabel", { control: control, half: left }, left);
+        const label = left.parts.label;
+        control.labelHeight = Qt.binding(() => label.naturalHeight);
+        control.labelRoom = Qt.binding(() => metrics.showText ? metrics.textLeftMargin + label.naturalWidth : 0);
+        arrangeLeft(control, left, metrics);
+    }
+    if (metrics.rightButtonVisible && !control.rightButton) {
+        control.rightButton = makeRightHalf(control, left, metrics, corner);
+        arrangeLeft(control, left, metrics);
+    }
+    showTooltip(left);
+}
+
+// From here on the icon does not lie in the middle of the pill any more.
+function arrangeLeft(control, left, metrics) {
+    const naturalWidth = () => metrics.leftSideLeftPadding + metrics.leftIconSize.width + control.labelRoom + metrics.leftSideRightPadding;
+    const start = () => metrics.leftSideLeftPadding + Math.max(0, Math.round((left.width - naturalWidth()) / 2));
+    const end = () => left.width - start() - metrics.leftIconSize.width;
+    left.x = Qt.binding(() => left.mirrored ? control.rightRoom : 0);
+    left.leftPadding = Qt.binding(() => left.mirrored ? end() : start());
+    left.rightPadding = Qt.binding(() => left.mirrored ? start() : end());
+}
+
+// The right half of \a control, beside \a left.
 function makeRightHalf(control, left, metrics, corner) {
-    const wash = isChecked => !metrics.rightButtonVisible ? ""
-        : isChecked ? metrics.checkedBackgroundColorSetName : metrics.backgroundColorSetName;
+    const wash = isChecked => isChecked ? metrics.checkedBackgroundColorSetName : metrics.backgroundColorSetName;
+    const isOneThing = () => control.leftChecked && !metrics.separatorVisible;
     const right = ButtonBase.needPart(left, "rightHalf", "PillHalf", {
-        x: () => left.mirrored ? 0 : control.width - (control.rightButton?.width ?? 0),
-        width: () => control.rightButton?.naturalWidth ?? 0,
+        x: () => left.mirrored ? 0 : control.width - control.rightRoom,
+        width: () => control.rightRoom,
         height: () => control.height,
         visible: () => metrics.rightButtonVisible,
         activeFocusOnTab: () => left.activeFocusOnTab,
         squareCorners: corner.TopLeft | corner.BottomLeft,
         themeType: () => control.themeType,
         textColorSet: () => control.textColorSet,
-        washColorSetName: () => wash(control.isGroundChecked || control.rightChecked),
+        washColorSetName: () => wash(isOneThing() || control.rightChecked),
         iconSize: () => metrics.rightIconSize,
         startPadding: () => metrics.rightSideLeftPadding,
         endPadding: () => metrics.rightSideRightPadding,
         enabled: () => control.rightEnabled,
         checkable: () => control.rightCheckable,
-        checked: () => control.rightChecked,
+        checked: control.rightChecked,
         iconName: () => control.rightIcon,
         checkedIconName: () => control.rightCheckedIcon,
         tooltip: () => control.rightTooltip || control.rightName,
@@ -51,21 +79,49 @@ function makeRightHalf(control, left, metrics, corner) {
     }, control);
     right.clicked.connect(() => clicked(control, "right", right));
     right.toggled.connect(() => toggled(control, "right", right));
+    control.rightCheckedChanged.connect(() => right.checked = control.rightChecked);
 
+    // Of two halves, each shows by itself that it is hovered or pressed.
+    control.ground = Qt.binding(() => metrics.rightButtonVisible
+        ? { enabled: left.enabled || control.rightEnabled, checked: isOneThing() } : undefined);
+    control.rightRoom = Qt.binding(() => metrics.rightButtonVisible ? right.naturalWidth : 0);
     left.squareCorners = Qt.binding(() => metrics.rightButtonVisible ? corner.TopRight | corner.BottomRight : corner.None);
-    left.washColorSetName = Qt.binding(() => wash(control.isGroundChecked || control.leftChecked));
-    left.washesChecked = Qt.binding(() => metrics.separatorVisible);
-
+    ButtonBase.needPart(left, "wash", "PillHalfWash", {
+        half: left,
+        corners: () => left.squareCorners,
+        isShown: () => {
+            const state = control.shownState ?? left;
+            return metrics.rightButtonVisible && Boolean(state.hovered || state.pressed || state.checked && metrics.separatorVisible);
+        },
+        themeType: () => control.themeType,
+        controlsTarget: () => control.shownState ?? left,
+        backgroundColorSetName: () => wash(control.leftChecked)
+    }, left);
     ButtonBase.needPart(right, "separator", "KRectangle", {
-        x: () => left.mirrored ? right.width - 1 : 0,
+        x: () => right.mirrored ? right.width - 1 : 0,
         y: () => Math.round((right.height - metrics.separatorHeight) / 2),
         width: 1,
         height: () => metrics.separatorHeight,
         visible: () => metrics.separatorVisible,
-        color: () => left.contentColor,
+        color: () => right.contentColor,
         opacity: 0.3
     }, right);
     return right;
+}
+
+// Where there is no tool tip of its own, a half shows its text as one.
+function giveTooltip(control, left) {
+    left.tooltip = Qt.binding(() => control.leftTooltip || control.leftName || control.text);
+    showTooltip(left);
+}
+
+function showTooltip(left) {
+    const label = left.parts?.label;
+    left.isTextEilded = label?.isShown ? label.truncated : left.tooltip.length > 0 ? undefined : true;
+}
+
+function showBadge(control, left) {
+    ButtonBase.needPart(left, "badge", "CallControlBadge", { control: control }, control);
 }
 
 const highestCount = 99;

@@ -24,7 +24,7 @@ KRectangle {
     width: isDot ? dotSize : Math.max(height, label.implicitWidth + 2 * rim)
     height: isDot ? dotSize : label.implicitHeight + 2
     radius: height / 2
-    visible: control.badgeVisible && control.UTCallControlButtonData.canShowBadge
+    visible: (control.badgeVisible || !isDot) && control.UTCallControlButtonData.canShowBadge
     themeType: control.themeType
     backgroundColorSetName: "button-accent-fill-background"
 

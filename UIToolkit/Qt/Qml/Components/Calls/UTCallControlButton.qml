@@ -19,28 +19,30 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
+import UIToolkitQml_Private 1.0
 import UIToolkitQml_Private_Data 1.0
-import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 import "qrc:/qt/qml/UIToolkitQml/CallControl.js" as CallControl
+import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
 KFrame {
     id: control
 
     //! Values of UTCallControlButtonEnum. A type other than Panel and Round vanishes in the size ExtremeSmall.
-    property int buttonType: UTCallControlButtonEnum.Round
-    property int buttonStyle: UTCallControlButtonEnum.Secondary
-    property int buttonSize: UTCallControlButtonEnum.Medium
-    property int buttonState: UTCallControlButtonEnum.Inactive
+    property int buttonType: 4 // UTCallControlButtonEnum.Round
+    property int buttonStyle: 0 // UTCallControlButtonEnum.Secondary
+    property int buttonSize: 0 // UTCallControlButtonEnum.Medium
+    property int buttonState: 0 // UTCallControlButtonEnum.Inactive
     //! The label of the left half.
     property string text
     //! Shows the label where the type can carry one. A bar that runs out of room switches it off; the text remains the
     //! tool tip and the name for assistive technology.
     property bool showText: true
-    //! Shows a badge at the upper corner, where the type can: with badgeText in it or, without a text, as a dot.
-    property bool badgeVisible: badgeText.length > 0
+    //! Shown at the upper corner, where the type can have a badge; empty for none.
     property string badgeText
-    //! A value of UTSvgResource.ImagePrefixType for the left icons; the assistant's types often show a bitmap.
-    property alias leftIconPrefixType: leftHalf.iconPrefixType
+    //! Shows a dot there while there is no badgeText.
+    property bool badgeVisible: false
+    //! Takes the left icons for bitmaps under "qrc:/Resources/" instead of icons: what the assistant's types often show.
+    property bool isLeftBitmap: false
 
     // The halves, each with the same properties.
     property alias leftEnabled: leftHalf.enabled
@@ -49,17 +51,18 @@ KFrame {
     property bool rightCheckable: false
     property bool leftChecked: false
     property bool rightChecked: false
-    //! What the half does: its tool tip and its name for assistive technology, unless those are given.
+    //! What the half does: its tool tip and its name for assistive technology, unless those are given. The left half's text
+    //! comes first as a name.
     property string leftName
     property string rightName
     //! Icon names. The checked one takes the place of the other while the half is checked; empty for the same.
-    property alias leftIcon: leftHalf.iconName
+    property string leftIcon
     property string rightIcon: "arrow-up-bold"
-    property alias leftCheckedIcon: leftHalf.checkedIconName
+    property string leftCheckedIcon
     property string rightCheckedIcon
     property string leftTooltip
     property string rightTooltip
-    property alias leftAccessibleName: leftHalf.accessibleName
+    property string leftAccessibleName
     property string rightAccessibleName
     //! Without one, the badge's text describes the left half.
     property string leftAccessibleDescription
@@ -74,9 +77,18 @@ KFrame {
     //! An object with enabled, hovered, pressed, activeFocus and checked, whose look the left half takes in place of its
     //! own; for pictures of states, which the Tab key passes by.
     property var shownState
+
     //! The halves, to place a menu beside one for example. There is no right one before the type asks for it.
     readonly property alias leftButton: leftHalf
     property PillHalf rightButton: null
+
+    // For the script, which binds them when there is a label or a right half; bindings that were there already would win.
+    property real rightRoom: 0
+    property real labelRoom: 0
+    property real labelHeight: 0
+    property var ground
+    // Of the colour of everything that lies on the pill.
+    readonly property kColorSet textColorSet: ThemeManager.globalTheme, App.getColorSet(UTCallControlButtonData.textColorSetName, themeType)
 
     signal leftClicked()
     signal rightClicked()
@@ -84,60 +96,75 @@ KFrame {
     signal rightToggled()
 
     UTCallControlButtonData.buttonType: buttonType
-    UTCallControlButtonData.buttonStyle: buttonStyle
-    UTCallControlButtonData.buttonSize: buttonSize
-    UTCallControlButtonData.buttonState: buttonState
-    UTCallControlButtonData.showText: showText && text.length > 0 && UTCallControlButtonData.canShowText
-
-    readonly property bool hasRightHalf: UTCallControlButtonData.buttonType === buttonType
-        && UTCallControlButtonData.rightButtonVisible
-    // Halves that a line parts are checked each on its own; else the right one is an annex of the left one.
-    readonly property bool isGroundChecked: (shownState ?? leftHalf).checked && !UTCallControlButtonData.separatorVisible
-    readonly property kColorSet textColorSet: ThemeManager.globalTheme, App.getColorSet(UTCallControlButtonData.textColorSetName, themeType)
-
-    implicitWidth: leftHalf.naturalWidth + (hasRightHalf ? rightButton?.naturalWidth ?? 0 : 0)
-    implicitHeight: Math.max(UTCallControlButtonData.height, leftHalf.labelHeight)
-    radius: height / 2
-    // Of two halves, each shows by itself that it is hovered or pressed.
-    controlsTarget: hasRightHalf ? { enabled: leftHalf.enabled || rightEnabled, checked: isGroundChecked } : shownState ?? leftHalf
-    backgroundColorSetName: isGroundChecked ? UTCallControlButtonData.checkedBackgroundColorSetName
-        : UTCallControlButtonData.backgroundColorSetName
-    borderColorSetName: UTCallControlButtonData.borderColorSetName
-
     // The metrics do not follow the type by themselves.
     UTCallControlButtonData.onButtonTypeChanged: UTCallControlButtonData.updateButtonSize()
 
-    // What most buttons do not have is made when first needed.
-    onHasRightHalfChanged: {
-        if (!rightButton) {
-            rightButton = CallControl.makeRightHalf(control, leftHalf, control.UTCallControlButtonData,
-                KBasicFocusItem.RectangularCorner);
-            Accessible.role = Accessible.Grouping;
-            Accessible.name = Qt.binding(() => text || leftName || leftTooltip || leftAccessibleName);
-        }
-    }
-    onShownStateChanged: leftHalf.activeFocusOnTab = false
-    onBadgeVisibleChanged: Script.needPart(leftHalf, "badge", "CallControlBadge", { control: control }, control)
+    implicitWidth: UTCallControlButtonData.leftSideLeftPadding + UTCallControlButtonData.leftIconSize.width
+        + labelRoom + UTCallControlButtonData.leftSideRightPadding + rightRoom
+    implicitHeight: Math.max(UTCallControlButtonData.height, labelHeight)
+    radius: height / 2
+    controlsTarget: ground ?? shownState ?? leftHalf
+    // Halves that a line parts are checked each on its own; else the right one is an annex of the left one.
+    backgroundColorSetName: leftChecked && !UTCallControlButtonData.separatorVisible ? UTCallControlButtonData.checkedBackgroundColorSetName
+        : UTCallControlButtonData.backgroundColorSetName
+    borderColorSetName: UTCallControlButtonData.borderColorSetName
 
-    PillHalf {
+    // Handlers in place of bindings: most buttons keep the first values, and have nothing but an icon.
+    onButtonTypeChanged: {
+        UTCallControlButtonData.buttonType = buttonType;
+        CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner);
+    }
+    onButtonStyleChanged: UTCallControlButtonData.buttonStyle = buttonStyle
+    onButtonSizeChanged: UTCallControlButtonData.buttonSize = buttonSize
+    onButtonStateChanged: UTCallControlButtonData.buttonState = buttonState
+    onTextChanged: CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner)
+    onShowTextChanged: CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner)
+    onLeftCheckableChanged: leftHalf.checkable = leftCheckable || leftChecked
+    onLeftCheckedChanged: leftHalf.checked = leftChecked
+    onLeftTooltipChanged: CallControl.giveTooltip(control, leftHalf)
+    onLeftAccessibleNameChanged: CallControl.giveTooltip(control, leftHalf)
+    onLeftAccessibleDescriptionChanged: leftHalf.Accessible.description = leftAccessibleDescription || badgeText
+    onBadgeTextChanged: {
+        leftHalf.Accessible.description = leftAccessibleDescription || badgeText;
+        CallControl.showBadge(control, leftHalf);
+    }
+    onBadgeVisibleChanged: CallControl.showBadge(control, leftHalf)
+    onRightButtonChanged: {
+        Accessible.role = Accessible.Grouping;
+        Accessible.name = Qt.binding(() => text || leftName || leftTooltip || leftAccessibleName);
+    }
+    onShownStateChanged: {
+        leftHalf.activeFocusOnTab = false;
+        leftChecked = Qt.binding(() => shownState?.checked ?? false);
+    }
+
+    UTButtonBase {
         id: leftHalf
 
-        x: mirrored ? control.width - width : 0
-        width: control.width - (control.hasRightHalf ? control.rightButton?.width ?? 0 : 0)
+        property int squareCorners: 0
+
+        function focusRingSettings(): var {
+            return { rectangularCornerMask: () => leftHalf.squareCorners, themeType: () => control.themeType };
+        }
+
+        width: control.width - control.rightRoom
         height: control.height
-        themeType: control.themeType
-        controlsTarget: control.shownState ?? leftHalf
-        checkable: control.leftCheckable
-        checked: control.leftChecked
-        text: control.UTCallControlButtonData.showText ? control.text : ""
-        font: control.UTCallControlButtonData.font
-        tooltip: control.leftTooltip || control.leftName || control.text
-        iconSize: control.UTCallControlButtonData.leftIconSize
-        startPadding: control.UTCallControlButtonData.leftSideLeftPadding
-        endPadding: control.UTCallControlButtonData.leftSideRightPadding
-        labelSpacing: control.UTCallControlButtonData.textLeftMargin
-        textColorSet: control.textColorSet
-        accessibleDescription: control.leftAccessibleDescription || control.badgeText
+        implicitWidth: 0 // the pill's business
+        implicitHeight: 0
+        text: control.leftAccessibleName || control.text || control.leftName
+        isTextEilded: true // for the tool tip: the text is not to be seen
+
+        contentItem: Image {
+            source: {
+                const name = leftHalf.checked && control.leftCheckedIcon || control.leftIcon;
+                return name.length === 0 ? "" : control.isLeftBitmap ? "qrc:/Resources/" + name
+                    : "image://svg/" + ThemeUtils.getColor(control.shownState ?? leftHalf, control.textColorSet) + "/" + name;
+            }
+            sourceSize: control.UTCallControlButtonData.leftIconSize
+            fillMode: Image.Pad // in the middle
+            mipmap: true // as everywhere, for the texture is shared
+        }
+
         onClicked: CallControl.clicked(control, "left", leftHalf)
         onToggled: CallControl.toggled(control, "left", leftHalf)
     }

@@ -115,6 +115,19 @@ constexpr StyleColors activeGhost = {QLatin1StringView("button-secondary-active-
                                      QLatin1StringView("button-secondary-active-background"), QLatin1StringView(),
                                      QLatin1StringView("button-ghost-active-text")};
 
+// The fonts of all sizes, built once for each text scale.
+const QFont &fontOf(size_t size)
+{
+    static qreal scale = 0;
+    static std::array<QFont, sizeTable.size()> fonts;
+    if (scale != App::instance()->textScale()) {
+        scale = App::instance()->textScale();
+        for (size_t i = 0; i < sizeTable.size(); ++i)
+            fonts[i] = KFont(sizeTable[i].font, false);
+    }
+    return fonts[size];
+}
+
 } // namespace
 
 UTCallControlButtonData::UTCallControlButtonData(QObject *attachee)
@@ -187,7 +200,7 @@ void UTCallControlButtonData::onShowTextChanged()
 void UTCallControlButtonData::updateFont()
 {
     if (size_t(m_buttonSize) < sizeTable.size())
-        setFont(KFont(sizeTable[size_t(m_buttonSize)].font, false));
+        setFont(fontOf(size_t(m_buttonSize)));
 }
 
 // A panel button without a label is as round as a Round one.

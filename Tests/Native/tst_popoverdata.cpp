@@ -284,7 +284,5 @@ void tst_PopOverData::badInput()
     QCOMPARE(data.arrowAnchor(), ArrowAnchor(17));
 }
 
-Q_DECLARE_METATYPE(PopOverPlacement::Request)
-
 QTEST_MAIN(tst_PopOverData)
 #include "tst_popoverdata.moc"

@@ -284,5 +284,5 @@ void tst_PillButtonData::sourceOfState()
     QVERIFY(state.pressed()); // as the last source left it
 }
 
-QTEST_GUILESS_MAIN(tst_PillButtonData)
+QTEST_MAIN(tst_PillButtonData)
 #include "tst_pillbuttondata.moc"

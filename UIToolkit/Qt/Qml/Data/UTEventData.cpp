@@ -115,8 +115,11 @@ void UTEventData::readSource()
 {
     const QMetaObject *metaObject = m_source->metaObject();
     for (size_t i = 0; i < FlagCount; ++i) {
-        if (m_sourceProperties[i] >= 0)
-            (this->*flags[i].set)(metaObject->property(m_sourceProperties[i]).read(m_source).toBool());
+        if (m_sourceProperties[i] < 0)
+            continue;
+        const bool value = metaObject->property(m_sourceProperties[i]).read(m_source).toBool();
+        const auto set = flags[i].set;
+        (this->*set)(value);
     }
 }
 

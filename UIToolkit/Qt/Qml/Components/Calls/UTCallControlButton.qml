@@ -156,7 +156,7 @@ KFrame {
 
         contentItem: Image {
             source: {
-                const name = leftHalf.checked && control.leftCheckedIcon || control.leftIcon;
+                const name = leftHalf.checked && control.leftCheckedIcon.length > 0 ? control.leftCheckedIcon : control.leftIcon;
                 return name.length === 0 ? "" : control.isLeftBitmap ? "qrc:/Resources/" + name
                     : "image://svg/" + ThemeUtils.getColor(control.shownState ?? leftHalf, control.textColorSet) + "/" + name;
             }

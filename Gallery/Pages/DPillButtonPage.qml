@@ -23,7 +23,7 @@ GalleryPage {
         Cell {
             label: qsTr("normal")
 
-            DPillButton { text: qsTr("Show more");  }
+            DPillButton { text: qsTr("Show more") }
         }
         Cell {
             label: qsTr("checked")

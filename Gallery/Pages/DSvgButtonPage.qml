@@ -32,6 +32,7 @@ GalleryPage {
     }
     Sheet {
         title: qsTr("Forms")
+        minimumCellWidth: 200
 
         Cell {
             label: "icon.name"

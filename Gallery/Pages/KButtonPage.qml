@@ -70,7 +70,7 @@ GalleryPage {
         Cell {
             label: qsTr("colours of its own")
 
-            KButton { text: qsTr("Leave"); radius: 4; backgroundColorSetName: "button-cancel-fill-background"; textColorSetName: "button-cancel-fill-text" }
+            KButton { text: qsTr("Leave"); radius: 4; backgroundColorSetName: "button-cancel-fill-background"; borderColorSetName: "button-cancel-fill-border"; textColorSetName: "button-cancel-fill-text" }
         }
     }
 }

@@ -52,6 +52,16 @@ GalleryPage {
             UTBadgeButton { iconName: "chat-bold"; buttonText: qsTr("Replies"); badgeText: "99+"; maxTextWidth: 32 }
         }
         Cell {
+            label: qsTr("on a quiet ground")
+
+            UTBadgeButton { iconName: "chat-bold"; buttonText: qsTr("Replies"); badgeText: "3"; backgroundColorSetName: "button-ghost-background" }
+        }
+        Cell {
+            label: qsTr("elided")
+
+            UTBadgeButton { width: 110; iconName: "chat-bold"; buttonText: qsTr("All replies"); badgeText: "3" }
+        }
+        Cell {
             label: qsTr("disabled")
 
             UTBadgeButton { iconName: "chat-bold"; buttonText: qsTr("Replies"); badgeText: "3"; enabled: false }

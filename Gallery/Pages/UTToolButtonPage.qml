@@ -12,7 +12,8 @@ GalleryPage {
     description: qsTr("A small square button with an icon, for tool bars; for use inside the library only.")
     controls: [
         PropertySwitch { id: hover; label: "hoverOverride" },
-        PropertySlider { id: outline; label: "focusOutline.width"; to: 4; value: 0 },
+        PropertySwitch { id: innerBorder; label: "focusOutline.innerFocusBorder" },
+        PropertySlider { id: cornerRadius; label: "focusOutline.cornerRadius"; to: 14; value: 4 },
         PropertySwitch { id: designated; label: "isDesignatedParent" },
         PropertySwitch { id: enabledSwitch; label: "enabled"; value: true }
     ]
@@ -22,7 +23,8 @@ GalleryPage {
             iconName: "copy-bold"
             tooltip: qsTr("Copy")
             hoverOverride: hover.value
-            focusOutline.width: outline.value
+            focusOutline.innerFocusBorder: innerBorder.value
+            focusOutline.cornerRadius: cornerRadius.value
             isDesignatedParent: designated.value
             enabled: enabledSwitch.value
             onClicked: page.log("clicked")

@@ -2,6 +2,7 @@ import QtQuick
 import QtTest
 import Korvu 1.0
 import UIToolkitQml 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 Item {
     id: stage
@@ -70,7 +71,7 @@ Item {
         function test_iconAndLabel(row) {
             const button = make("DSvgIconButton", { width: 116, text: row.text, iconName: "plus-bold" });
             button.LayoutMirroring.enabled = row.mirrored;
-            const icon = button.parts.icon;
+            const icon = button.contentItem.children[0];
             const label = button.contentItem;
             tryCompare(icon, "visible", true);
             if (row.x !== undefined) {
@@ -79,11 +80,61 @@ Item {
             }
             const room = row.mirrored ? label.rightPadding : label.leftPadding;
             compare(room, 12 + 6);
-            for (const type of ["DSvgButton", "DSvgIconButton"])
+            for (const type of ["DSvgButton", "DSvgIconButton", "UTBadgeButton"])
                 verify(make(type, { text: row.text, iconHeight: 60 }).height >= 60, "taller than its label");
             // Icon, gap and text are in the middle as one.
             const start = (label.width - 18 - label.contentWidth) / 2;
             fuzzyCompare(icon.x, row.mirrored ? label.width - start - 12 : start, 1);
+        }
+
+        function test_badge() {
+            const button = make("UTBadgeButton", { width: 120, iconName: "chat-bold", buttonText: "Go", badgeText: "3" });
+            const [icon, badge] = [button.contentItem.children[0], button.contentItem.children[1]];
+            const label = button.contentItem;
+            for (const mirrored of [false, true]) {
+                button.LayoutMirroring.childrenInherit = button.LayoutMirroring.enabled = mirrored;
+                const [first, last] = mirrored ? [badge, icon] : [icon, badge];
+                fuzzyCompare(last.x - first.x, first.width + 6 + label.contentWidth + 6, 1);
+                compare(mirrored ? icon.x + icon.width : icon.x, mirrored ? label.width : 0, "as the text is aligned");
+            }
+            compare(button.Accessible.description, "3");
+            const room = button.implicitWidth;
+            button.badgeVisible = false;
+            compare(button.implicitWidth, room - badge.width - 6);
+            compare(button.Accessible.description, "");
+            button.badgeVisible = true;
+            button.buttonText = "";
+            compare(button.implicitWidth, 24 + 14 + 6 + badge.width, "icon and badge alone");
+        }
+
+        function test_tooltipOfElidedLabel() {
+            const button = make("KButton", { text: "A label that is too long", tooltip: "Tip", width: 60 });
+            tryCompare(button, "isTextEilded", true);
+            compare(Script.tooltipText(button), "A label that is too long\nTip");
+            button.width = 400;
+            tryCompare(button, "isTextEilded", undefined);
+            compare(Script.tooltipText(make("DSvgButton", { text: "Share" })), "Share");
+        }
+
+        function test_toggleKeepsItsBinding() {
+            const model = createTemporaryQmlObject("import QtQml; QtObject { property bool pinned }", stage);
+            const button = make("UTRectangleToggleButton", { isChecked: Qt.binding(() => model.pinned) });
+            mouseClick(button);
+            verify(button.isChecked);
+            model.pinned = true;
+            model.pinned = false;
+            verify(!button.isChecked);
+        }
+
+        function test_toolButtonOutline() {
+            const button = make("UTToolButton", { iconName: "copy-bold", isDesignatedParent: true });
+            App.isKeyboardFocus = true;
+            button.forceActiveFocus(Qt.TabFocusReason);
+            const ring = button.parts.focusRing;
+            compareProperties(ring, { designatedParent: button, cornerRadius: 4, isRectangle: true });
+            button.focusOutline.cornerRadius = 14;
+            button.isDesignatedParent = false;
+            compareProperties(ring, { designatedParent: undefined, cornerRadius: 14 });
         }
 
         function test_pressedLook() {

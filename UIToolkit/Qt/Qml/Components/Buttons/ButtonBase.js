@@ -1,6 +1,7 @@
 .pragma library
 .import QtQuick 2.15 as QtQuick
 .import Korvu 1.0 as Host
+.import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
 // What UTButtonBase does. It is apart because each function in a component costs each of its instances.
 
@@ -82,4 +83,35 @@ function arrangeLine(control, label) {
 function rearrangeLine(control) {
     if (control.implicitWidth > 0)
         arrangeLine(control, control.contentItem);
+}
+
+// The colour of \a colorSet for the state of the plain button \a control.
+function plainColor(control, colorSet) {
+    return control.isPressed && control.enabled && colorSet.isValid ? colorSet.pressed : ThemeUtils.getColor(control, colorSet);
+}
+
+// The same for the colour set called \a name, whatever the theme.
+function plainColorOf(control, name) {
+    return Host.ThemeManager.globalTheme, plainColor(control, Host.App.getColorSet(name, control.themeType));
+}
+
+// Gives a plain button the border that most never show: in the colour of the focus while the keyboard's is on it, else in
+// its own, if it has one.
+function needBorder(control) {
+    const border = control.background?.border;
+    if (!border || control.parts?.border)
+        return;
+    control.parts = Object.assign(control.parts ?? {}, { border: border });
+    const isFocused = () => control.activeFocus && Host.App.isKeyboardFocus && control.focusColorSetName.length > 0;
+    const setName = () => isFocused() ? control.focusColorSetName : control.borderColorSetName;
+    border.width = Qt.binding(() => isFocused() ? Math.max(2, control.borderWidth) : setName().length > 0 ? control.borderWidth : 0);
+    border.color = Qt.binding(() => setName().length > 0 ? plainColorOf(control, setName()) : "transparent");
+}
+
+// How far from where its line begins the icon, text and badge of a plain button's label begin; they lie together.
+function labelStart(label, isMirrored) {
+    const free = Math.max(0, label.width - label.leftPadding - label.contentWidth - label.rightPadding);
+    if (label.text.length === 0 || label.effectiveHorizontalAlignment === QtQuick.Text.AlignHCenter)
+        return Math.round(free / 2);
+    return label.effectiveHorizontalAlignment === (isMirrored ? QtQuick.Text.AlignLeft : QtQuick.Text.AlignRight) ? free : 0;
 }

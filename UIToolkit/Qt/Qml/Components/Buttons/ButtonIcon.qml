@@ -1,38 +1,29 @@
 /*!
-    The icon of a plain button, before the label's text or alone in the middle. It makes room for itself by the label's
-    padding.
+    The icon of a plain button, before the label's text or alone in the middle.
 
     \qml
     ButtonIcon { control: button; iconName: "plus-bold"; color: "red"; width: 12; height: 12 }
     \endqml
 */
 import QtQuick
-import UIToolkitQml_Private 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 Image {
     id: icon
 
-    required property UTButtonBase control
+    required property KButton control
     property string iconName
     property color color
     //! Shown as it is, in place of the icon, where not empty.
     property url picture
     readonly property Text label: parent as Text
-    readonly property bool isMirrored: control.mirrored
-    readonly property real room: visible && label.text.length > 0 ? width + spacing : 0
-    readonly property real spacing: 6
-
-    function takeRoom(): void {
-        label.leftPadding = isMirrored ? 0 : room;
-        label.rightPadding = isMirrored ? room : 0;
-    }
+    readonly property int spacing: 6
+    //! What the icon takes from the label, in pixels.
+    readonly property real room: !visible ? 0 : label.text.length > 0 ? width + spacing : width
 
     x: {
-        const rest = label.width - label.contentWidth - room;
-        const isCentered = label.text.length === 0 || label.effectiveHorizontalAlignment === Text.AlignHCenter;
-        const isAtEnd = label.effectiveHorizontalAlignment === (isMirrored ? Text.AlignLeft : Text.AlignRight);
-        const before = label.text.length === 0 ? (label.width - width) / 2 : isCentered ? rest / 2 : isAtEnd ? rest : 0;
-        return Math.round(isMirrored ? label.width - width - before : before);
+        const start = Script.labelStart(label, control.mirrored);
+        return control.mirrored ? label.width - width - start : start;
     }
     y: Math.round((label.height - height) / 2)
     visible: source.toString().length > 0
@@ -40,8 +31,4 @@ Image {
     sourceSize: Qt.size(width, height)
     fillMode: Image.PreserveAspectFit
     mipmap: true
-
-    onRoomChanged: takeRoom()
-    onIsMirroredChanged: takeRoom()
-    Component.onCompleted: takeRoom()
 }

@@ -7,7 +7,6 @@
     \endqml
 */
 import QtQuick
-import Korvu 1.0
 import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 KButton {
@@ -22,22 +21,26 @@ KButton {
     //! Shows the picture of icon.source in its own colours, instead of the icon of icon.name.
     property bool showSvgIconOriginalColor: false
 
-    function needIcon(): void {
-        Script.needPart(control, "icon", "ButtonIcon", {
-            control: control,
-            iconName: () => control.icon.name,
-            picture: () => control.showSvgIconOriginalColor || control.icon.name.length === 0 ? control.icon.source : "",
-            color: () => control.stateColor((ThemeManager.globalTheme, App.getColorSet(control.iconColorSetName, control.themeType))),
-            width: () => control.iconWidth,
-            height: () => control.iconHeight
-        }, contentItem);
-    }
-
     horizontalAlignment: alignment
     radius: height / 2
     implicitHeight: Math.max(implicitContentHeight, iconHeight) + topPadding + bottomPadding
     tooltip: text
-    implicitWidth: Math.max(implicitHeight, text.length > 0 ? implicitContentWidth + leftPadding + rightPadding : iconWidth + leftPadding + rightPadding)
+    implicitWidth: Math.max(implicitHeight, implicitContentWidth + leftPadding + rightPadding)
 
-    onIconChanged: needIcon()
+    contentItem: ButtonLabel {
+        control: control
+        leftPadding: control.mirrored ? 0 : icon.room
+        rightPadding: control.mirrored ? icon.room : 0
+
+        ButtonIcon {
+            id: icon
+
+            control: control
+            iconName: control.icon.name
+            picture: control.showSvgIconOriginalColor || control.icon.name.length === 0 ? control.icon.source : ""
+            color: Script.plainColorOf(control, control.iconColorSetName)
+            width: control.iconWidth
+            height: control.iconHeight
+        }
+    }
 }

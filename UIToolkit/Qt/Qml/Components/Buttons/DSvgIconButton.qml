@@ -6,7 +6,6 @@
     \endqml
 */
 import QtQuick
-import Korvu 1.0
 import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 DPillButton {
@@ -21,15 +20,21 @@ DPillButton {
 
     implicitHeight: Math.max(implicitContentHeight, iconHeight) + topPadding + bottomPadding
     horizontalPadding: 8
-    implicitWidth: Math.max(implicitHeight, text.length > 0 ? implicitContentWidth + leftPadding + rightPadding : iconWidth + leftPadding + rightPadding)
+    implicitWidth: Math.max(implicitHeight, implicitContentWidth + leftPadding + rightPadding)
 
-    onIconNameChanged: {
-        Script.needPart(control, "icon", "ButtonIcon", {
-            control: control,
-            iconName: () => control.iconName,
-            color: () => control.stateColor((ThemeManager.globalTheme, App.getColorSet(control.iconColorSetName, control.themeType))),
-            width: () => control.iconWidth,
-            height: () => control.iconHeight
-        }, contentItem);
+    contentItem: ButtonLabel {
+        control: control
+        leftPadding: control.mirrored ? 0 : icon.room
+        rightPadding: control.mirrored ? icon.room : 0
+
+        ButtonIcon {
+            id: icon
+
+            control: control
+            iconName: control.iconName
+            color: Script.plainColorOf(control, control.iconColorSetName)
+            width: control.iconWidth
+            height: control.iconHeight
+        }
     }
 }

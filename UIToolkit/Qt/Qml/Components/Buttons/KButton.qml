@@ -8,7 +8,7 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private 1.0
-import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 UTButtonBase {
     id: control
@@ -36,31 +36,17 @@ UTButtonBase {
     readonly property kColorSet backgroundColorSet: ThemeManager.globalTheme, App.getColorSet(backgroundColorSetName, themeType)
     readonly property kColorSet textColorSet: ThemeManager.globalTheme, App.getColorSet(textColorSetName, themeType)
 
-    //! The colour of \a colorSet for the state of the button.
-    function stateColor(colorSet: var): color {
-        return isPressed && enabled && colorSet.isValid ? colorSet.pressed : ThemeUtils.getColor(control, colorSet);
-    }
-
     horizontalPadding: 12
     verticalPadding: 6
     font: FontConstants.bodySecondary
 
     background: Rectangle {
-        readonly property bool showsFocus: control.activeFocus && App.isKeyboardFocus
-        readonly property string borderSetName: showsFocus ? control.focusColorSetName : control.borderColorSetName
-
         radius: control.isRectangle ? 0 : control.radius
-        color: control.stateColor(control.backgroundColorSet)
-        border.width: borderSetName.length === 0 ? 0 : showsFocus ? Math.max(2, control.borderWidth) : control.borderWidth
-        border.color: borderSetName.length === 0 ? "transparent"
-            : control.stateColor((ThemeManager.globalTheme, App.getColorSet(borderSetName, control.themeType)))
+        color: Script.plainColor(control, control.backgroundColorSet)
+        border.width: 0
     }
-    contentItem: Text {
-        text: control.text
-        font: control.font
-        color: control.stateColor(control.textColorSet)
-        elide: Text.ElideRight
-        horizontalAlignment: control.horizontalAlignment
-        verticalAlignment: control.verticalAlignment
-    }
+    contentItem: ButtonLabel { control: control }
+
+    onBorderColorSetNameChanged: Script.needBorder(control)
+    onActiveFocusChanged: Script.needBorder(control)
 }

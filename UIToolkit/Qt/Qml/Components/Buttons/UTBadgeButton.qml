@@ -7,6 +7,7 @@
 */
 import QtQuick
 import Korvu 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 KButton {
     id: control
@@ -19,62 +20,36 @@ KButton {
     //! In pixels.
     property real iconHeight: 14
     property real iconWidth: 14
-    //! Widest that the badge's text may be, in pixels; a longer one is elided.
+    //! Widest that the badge's text may be, in pixels at a text scale of 1; a longer one is elided.
     property real maxTextWidth: 14
     property bool badgeVisible: true
 
     text: buttonText
     textColorSetName: "button-ghost-text"
-    backgroundColorSetName: "button-ghost-background"
     radius: 4
+    implicitHeight: Math.max(implicitContentHeight, iconHeight) + topPadding + bottomPadding
 
-    contentItem: Item {
-        implicitWidth: row.implicitWidth
-        implicitHeight: row.implicitHeight
+    contentItem: ButtonLabel {
+        control: control
+        leftPadding: control.mirrored ? badge.room : icon.room
+        rightPadding: control.mirrored ? icon.room : badge.room
 
-        Row {
-            id: row
+        ButtonIcon {
+            id: icon
 
-            anchors.centerIn: parent
-            height: implicitHeight
-            spacing: 6
+            control: control
+            iconName: control.iconName
+            color: Script.plainColorOf(control, control.iconColorSetName)
+            width: control.iconWidth
+            height: control.iconHeight
+        }
+        ButtonBadge {
+            id: badge
 
-            KSvgIcon {
-                anchors.verticalCenter: parent.verticalCenter
-                width: control.iconWidth
-                height: control.iconHeight
-                sourceSize: Qt.size(width, height)
-                visible: control.iconName.length > 0
-                svgName: control.iconName
-                svgColor: control.stateColor((ThemeManager.globalTheme, App.getColorSet(control.iconColorSetName, control.themeType)))
-            }
-            Text {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: control.buttonText.length > 0
-                text: control.buttonText
-                font: control.font
-                color: control.stateColor(control.textColorSet)
-            }
-            Rectangle {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: control.badgeVisible && control.badgeText.length > 0
-                width: Math.max(height, badge.width + 8)
-                height: Math.max(16, badge.implicitHeight)
-                radius: height / 2
-                color: control.stateColor((ThemeManager.globalTheme, App.getColorSet("button-accent-fill-background", control.themeType)))
-
-                Text {
-                    id: badge
-
-                    anchors.centerIn: parent
-                    width: Math.min(implicitWidth, control.maxTextWidth * App.textScale)
-                    text: control.badgeText
-                    font: FontConstants.tagLabelSecondary
-                    color: control.stateColor((ThemeManager.globalTheme, App.getColorSet("button-accent-fill-text", control.themeType)))
-                    elide: Text.ElideRight
-                    horizontalAlignment: Text.AlignHCenter
-                }
-            }
+            control: control
+            badgeText: control.badgeVisible ? control.badgeText : ""
+            maximumTextWidth: Math.round(control.maxTextWidth * App.textScale)
+            hasIcon: icon.visible
         }
     }
 

@@ -16,7 +16,8 @@ UTButtonBase {
     property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
     //! Icon name; empty for none.
     property string buttonIcon
-    property bool isChecked: false
+    //! The same as checked.
+    property alias isChecked: control.checked
 
     function focusRingSettings(): var {
         return { isRectangle: true, cornerRadius: 4, themeType: () => control.themeType };
@@ -25,8 +26,6 @@ UTButtonBase {
     implicitWidth: 32
     implicitHeight: 32
     checkable: true
-    checked: isChecked
-    announceStateChange: true
 
     background: Rectangle {
         radius: 4
@@ -40,6 +39,4 @@ UTButtonBase {
         sourceSize: Qt.size(16, 16)
         fillMode: Image.Pad
     }
-
-    onToggled: isChecked = checked
 }

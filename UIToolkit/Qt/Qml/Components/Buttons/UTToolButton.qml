@@ -1,5 +1,5 @@
 /*!
-    A small square button with an icon for tool bars and toolbars on rows; for use inside the library only.
+    A small square button with an icon, for tool bars and rows; for use inside the library only.
 
     \qml
     UTToolButton { iconName: "copy-bold"; tooltip: "Copy"; onClicked: message.copy() }
@@ -18,16 +18,19 @@ UTButtonBase {
     property string iconName
     //! Shows the button as hovered, as while what it opened is open.
     property bool hoverOverride: false
-    //! Width and colour of the outline, for a button that needs one on its ground; none by default.
-    property alias focusOutline: ground.border
-    //! Whether the button itself hosts its focus ring, where it would be lost above its surroundings.
+    //! The shape of the focus ring, a KBasicFocusItem.
+    property alias focusOutline: outline
+    //! Whether the button itself hosts its focus ring, as in a row that scrolls, instead of its top-most ancestor.
     property bool isDesignatedParent: false
 
     function focusRingSettings(): var {
         return {
-            isRectangle: true,
-            cornerRadius: ground.radius,
-            designatedParent: () => control.isDesignatedParent ? control : undefined,
+            innerFocusBorder: () => outline.innerFocusBorder,
+            isRectangle: () => outline.isRectangle,
+            cornerRadius: () => outline.cornerRadius,
+            customRect: () => outline.customRect,
+            rectangularCornerMask: () => outline.rectangularCornerMask,
+            designatedParent: () => outline.designatedParent,
             themeType: () => control.themeType
         };
     }
@@ -42,16 +45,27 @@ UTButtonBase {
     implicitHeight: 28
 
     background: Rectangle {
-        id: ground
-
-        radius: 4
+        radius: priv.cornerRadius
         color: (ThemeManager.globalTheme, control.stateColor(control.checked ? "button-ghost-active-background" : "button-ghost-background"))
-        border.width: 0
     }
     contentItem: KSvgIcon {
         svgName: control.iconName
         svgColor: (ThemeManager.globalTheme, control.stateColor(control.checked ? "button-ghost-active-text" : "button-ghost-text"))
         sourceSize: Qt.size(16, 16)
         fillMode: Image.Pad
+    }
+
+    KBasicFocusItem {
+        id: outline
+
+        isRectangle: true
+        cornerRadius: priv.cornerRadius
+        designatedParent: control.isDesignatedParent ? control : undefined
+    }
+
+    QtObject {
+        id: priv
+
+        readonly property int cornerRadius: 4
     }
 }

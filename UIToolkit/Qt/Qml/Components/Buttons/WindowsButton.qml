@@ -21,15 +21,8 @@ UTButtonBase {
     }
 
     property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
+    //! A value of WindowsButton.ButtonType; an unknown one shows nothing.
     property int buttonType: WindowsButton.ButtonType.Minimize
-
-    // By type: icon, what the button does, and the family of its colour sets. An unknown type shows nothing.
-    readonly property var look: [
-        { icon: "window-minimize-regular", tooltip: qsTr("Minimize"), colors: "globalHeader-maxMinButton" },
-        { icon: "window-maximize-regular", tooltip: qsTr("Maximize"), colors: "globalHeader-maxMinButton" },
-        { icon: "window-restore-regular", tooltip: qsTr("Restore"), colors: "globalHeader-maxMinButton" },
-        { icon: "window-close-regular", tooltip: qsTr("Close"), colors: "globalHeader-closeButton" }
-    ][buttonType] ?? { icon: "", tooltip: "", colors: "globalHeader-maxMinButton" }
 
     function focusRingSettings(): var {
         return { isRectangle: true, cornerRadius: 0, innerFocusBorder: true, themeType: () => control.themeType };
@@ -37,15 +30,27 @@ UTButtonBase {
 
     implicitWidth: 46
     implicitHeight: 32
-    tooltip: look.tooltip
+    tooltip: priv.look.tooltip
 
     background: Rectangle {
-        color: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet(control.look.colors + "-background", control.themeType)))
+        color: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet(priv.look.colors + "-background", control.themeType)))
     }
     contentItem: KSvgIcon {
-        svgName: control.look.icon
-        svgColor: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet(control.look.colors + "-text", control.themeType)))
-        sourceSize: Qt.size(12, 12)
+        svgName: priv.look.icon
+        svgColor: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet(priv.look.colors + "-text", control.themeType)))
+        sourceSize: Qt.size(16, 16)
         fillMode: Image.Pad
+    }
+
+    QtObject {
+        id: priv
+
+        // By type: icon, what the button does, and the family of its colour sets.
+        readonly property var look: [
+            { icon: "window-minimize-regular", tooltip: qsTr("Minimize"), colors: "globalHeader-maxMinButton" },
+            { icon: "window-maximize-regular", tooltip: qsTr("Maximize"), colors: "globalHeader-maxMinButton" },
+            { icon: "window-restore-regular", tooltip: qsTr("Restore"), colors: "globalHeader-maxMinButton" },
+            { icon: "window-close-regular", tooltip: qsTr("Close"), colors: "globalHeader-closeButton" }
+        ][control.buttonType] ?? { icon: "", tooltip: "", colors: "globalHeader-maxMinButton" }
     }
 }

@@ -1,9 +1,9 @@
 /*! What stands in for the library's field that records a shortcut, until there is one. */
 import Korvu 1.0
+import UIToolkitQml 1.0
 import UIToolkitQml_Private_Data 1.0
-import Gallery
 
-GalleryButton {
+UTPillButton {
     id: control
 
     property bool isInEditMode: false

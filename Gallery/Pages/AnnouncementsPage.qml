@@ -25,14 +25,13 @@ GalleryPage {
     Playground {
         stageHeight: 120
 
-        GalleryButton {
+        UTPillButton {
             id: say
 
             text: qsTr("Say it")
-            iconName: "speaker-bold"
-            backgroundColorSetName: "button-primary-background"
-            borderColorSetName: "button-primary-border"
-            textColorSetName: "button-primary-text"
+            leftIcon: "speaker-bold"
+            buttonStyle: UTButtonStyle.Primary
+            buttonSize: UTButtonSize.L
             onClicked: UIToolKitUtils.sayAccessible(say, text.value, delay.value)
         }
     }
@@ -55,11 +54,12 @@ GalleryPage {
                 label: modelData.label
                 note: modelData.text.trim().length > 0 ? modelData.text : qsTr("is not spoken")
 
-                GalleryButton {
+                UTPillButton {
                     id: button
 
                     text: cell.modelData.label
-                    borderColorSetName: "button-secondary-border"
+                    buttonStyle: UTButtonStyle.Secondary
+                    buttonSize: UTButtonSize.L
                     onClicked: UIToolKitUtils.sayAccessible(button, cell.modelData.text, cell.modelData.delay)
                 }
             }
@@ -80,9 +80,10 @@ GalleryPage {
             Column {
                 spacing: 12
 
-                GalleryButton {
+                UTPillButton {
                     text: qsTr("Count on")
-                    borderColorSetName: "button-secondary-border"
+                    buttonStyle: UTButtonStyle.Secondary
+                    buttonSize: UTButtonSize.L
                     onClicked: counterCell.count += 1
                 }
                 KText {

@@ -39,12 +39,12 @@ GalleryPage {
                 ToolButton { text: qsTr("Heading 1"); active: area.UTRichTextAreaData.heading1; onClicked: area.toggle("heading1") }
                 ToolButton { text: qsTr("Heading 2"); active: area.UTRichTextAreaData.heading2; onClicked: area.toggle("heading2") }
                 ToolButton { text: qsTr("Heading 3"); active: area.UTRichTextAreaData.heading3; onClicked: area.toggle("heading3") }
-                ToolButton { text: qsTr("Link"); iconName: "link-bold"; onClicked: area.UTRichTextAreaData.addLink(linkText.value, linkTarget.value) }
+                ToolButton { text: qsTr("Link"); leftIcon: "link-bold"; onClicked: area.UTRichTextAreaData.addLink(linkText.value, linkTarget.value) }
                 ToolButton { text: qsTr("Mention"); onClicked: area.UTRichTextAreaData.addLink("@" + linkText.value, UIToolKitUtils.mentionLink) }
                 ToolButton { text: qsTr("Paste"); onClicked: area.UTRichTextAreaData.pasteText() }
                 ToolButton { text: qsTr("Plain model"); onClicked: area.UTRichTextAreaData.removeUnsupportedFormats() }
-                ToolButton { text: qsTr("Undo"); iconName: "reset-bold"; enabled: area.canUndo; onClicked: area.undo() }
-                ToolButton { text: qsTr("Redo"); iconName: "refresh-bold"; enabled: area.canRedo; onClicked: area.redo() }
+                ToolButton { text: qsTr("Undo"); leftIcon: "reset-bold"; enabled: area.canUndo; onClicked: area.undo() }
+                ToolButton { text: qsTr("Redo"); leftIcon: "refresh-bold"; enabled: area.canRedo; onClicked: area.redo() }
             }
             KFrame {
                 width: parent.width
@@ -174,12 +174,11 @@ GalleryPage {
         readonly property string example: qsTr("<h2>Release notes</h2><p>Type, paste and format <b>here</b>. <a href=\"https://example.org\">Links</a> and <a href=\"%1\">@mentions</a> have a colour of their own.</p><ul><li>one</li><li>two</li></ul>").arg(UIToolKitUtils.mentionLink)
     }
 
-    component ToolButton: GalleryButton {
+    component ToolButton: UTPillButton {
         property bool active: false
 
         focusPolicy: Qt.TabFocus
-        backgroundColorSetName: active ? "button-primary-background" : "button-ghost-background"
-        borderColorSetName: active ? "button-primary-border" : "button-secondary-border"
-        textColorSetName: active ? "button-primary-text" : "button-ghost-text"
+        buttonStyle: active ? UTButtonStyle.Primary : UTButtonStyle.Secondary
+        buttonSize: UTButtonSize.L
     }
 }

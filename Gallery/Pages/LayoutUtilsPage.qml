@@ -47,8 +47,10 @@ GalleryPage {
         Cell {
             label: qsTr("of the box above")
 
-            GalleryButton {
+            UTPillButton {
                 text: qsTr("Read it")
+                buttonStyle: UTButtonStyle.Secondary
+                buttonSize: UTButtonSize.L
                 onClicked: page.log("globalRect: %1".arg(LayoutUtils.globalRect(box)))
             }
         }

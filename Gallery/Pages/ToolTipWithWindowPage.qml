@@ -18,10 +18,12 @@ GalleryPage {
     ]
 
     Playground {
-        GalleryButton {
+        UTPillButton {
             id: button
 
             text: qsTr("Point at me")
+            buttonStyle: UTButtonStyle.Secondary
+            buttonSize: UTButtonSize.L
 
             ToolTipWithWindow {
                 tooltipText: text.value

@@ -31,15 +31,14 @@ GalleryPage {
     Playground {
         stageHeight: 160
 
-        GalleryButton {
+        UTPillButton {
             id: button
 
             text: qsTr("Point at me")
-            iconName: "thumbs-up-bold"
+            leftIcon: "thumbs-up-bold"
+            buttonStyle: UTButtonStyle.Accent
+            buttonSize: UTButtonSize.L
             enabled: enabledSwitch.value
-            backgroundColorSetName: "button-accent-fill-background"
-            borderColorSetName: "button-accent-fill-border"
-            textColorSetName: "button-accent-fill-text"
         }
     }
     Sheet {

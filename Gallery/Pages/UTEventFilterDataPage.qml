@@ -18,12 +18,11 @@ GalleryPage {
     Playground {
         stageHeight: 160
 
-        GalleryButton {
+        UTPillButton {
             text: qsTr("Watched")
-            iconName: "settings-regular"
-            backgroundColorSetName: "button-primary-background"
-            borderColorSetName: "button-primary-border"
-            textColorSetName: "button-primary-text"
+            leftIcon: "settings-regular"
+            buttonStyle: UTButtonStyle.Primary
+            buttonSize: UTButtonSize.L
 
             UTEventFilterData.processKeySequences: sequences.value.split(",").map(text => text.trim()).filter(text => text)
             UTEventFilterData.listenFocusIn: focusSwitch.value

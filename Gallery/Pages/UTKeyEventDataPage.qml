@@ -31,8 +31,9 @@ GalleryPage {
             UTShortcutsLabel {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: isInEditMode ? qsTr("Recording") : qsTr("Press keys here")
-                iconName: "settings-regular"
-                borderColorSetName: "button-secondary-border"
+                leftIcon: "settings-regular"
+                buttonStyle: UTButtonStyle.Secondary
+                buttonSize: UTButtonSize.L
                 // A Tab that is swallowed would hold the focus here for ever.
                 isInEditMode: ignoreSwitch.value && activeFocus
                 onKeyPressed: event => {

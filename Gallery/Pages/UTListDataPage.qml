@@ -141,7 +141,8 @@ GalleryPage {
         }
     }
 
-    component ActionButton: GalleryButton {
-        borderColorSetName: "button-secondary-border"
+    component ActionButton: UTPillButton {
+        buttonStyle: UTButtonStyle.Secondary
+        buttonSize: UTButtonSize.L
     }
 }

@@ -26,10 +26,12 @@ GalleryPage {
     ]
 
     Playground {
-        GalleryButton {
+        UTPillButton {
             id: button
 
             text: qsTr("Point at me")
+            buttonStyle: UTButtonStyle.Secondary
+            buttonSize: UTButtonSize.L
 
             UTToolTip {
                 anchors.fill: parent
@@ -65,10 +67,12 @@ GalleryPage {
 
                 label: modelData
 
-                GalleryButton {
+                UTPillButton {
                     id: target
 
                     text: cell.modelData
+                    buttonStyle: UTButtonStyle.Secondary
+                    buttonSize: UTButtonSize.L
 
                     UTToolTip {
                         anchors.fill: parent

@@ -118,13 +118,15 @@ KRectangle {
                     body: text
                 }
             }
-            GalleryButton {
+            UTPillButton {
                 id: clearEvents
 
                 anchors.bottom: parent.bottom
                 anchors.left: parent.left
                 text: qsTr("Clear")
-                iconName: "clear-bold"
+                leftIcon: "clear-bold"
+                buttonStyle: UTButtonStyle.Ghost
+                buttonSize: UTButtonSize.L
                 onClicked: control.clearLog()
             }
         }
@@ -193,13 +195,15 @@ KRectangle {
                     body: item.length > 0 ? qsTr("%1: %2").arg(item).arg(text) : text
                 }
             }
-            GalleryButton {
+            UTPillButton {
                 id: clearReader
 
                 anchors.bottom: parent.bottom
                 anchors.left: parent.left
                 text: qsTr("Clear")
-                iconName: "clear-bold"
+                leftIcon: "clear-bold"
+                buttonStyle: UTButtonStyle.Ghost
+                buttonSize: UTButtonSize.L
                 onClicked: monitor.clear()
             }
         }

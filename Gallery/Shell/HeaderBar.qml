@@ -86,11 +86,11 @@ KRectangle {
             checked: !App.animationsDisabled
             onToggled: App.animationsDisabled = !checked
         }
-        GalleryButton {
-            display: GalleryButton.IconOnly
-            text: control.isDrawerShown ? qsTr("Hide the side panel") : qsTr("Show the side panel")
-            iconName: "side-bar-bold"
-            onClicked: control.drawerToggled()
+        UTRectangleToggleButton {
+            buttonIcon: "side-bar-bold"
+            tooltip: qsTr("Side panel")
+            isChecked: control.isDrawerShown
+            onToggled: control.drawerToggled()
         }
     }
     KSeparator {

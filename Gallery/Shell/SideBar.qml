@@ -206,8 +206,10 @@ KRectangle {
             wrapMode: Text.Wrap
             textColorSetName: "text-secondary"
         }
-        GalleryButton {
+        UTPillButton {
             text: qsTr("Show all")
+            buttonStyle: UTButtonStyle.Ghost
+            buttonSize: UTButtonSize.L
             onClicked: search.clear()
         }
     }

@@ -22,6 +22,9 @@ UTSvgResource {
 
     // For the icon on the other side as well, which is of the same size.
     function takeRoom(): void {
+        // As a window closes, the button may be gone before its parts are hidden.
+        if (!control)
+            return;
         const before = control.mirrored ? control.rightIcon : control.leftIcon;
         const after = control.mirrored ? control.leftIcon : control.rightIcon;
         label.leftPadding = before.length > 0 ? room : 0;

@@ -6,7 +6,7 @@ import Gallery
 GalleryPage {
     id: page
 
-    readonly property string film: "image://dynamic/?imageProviderUrl=" + MediaPolicy.encode("qrc:/Resources/coverImageSpinner.gif") + "&isDark=false&fallbackImage="
+    readonly property string film: "image://dynamic/?imageProviderUrl=" + MediaPolicy.encode("qrc:/Resources/coverImageSpinner@2x.gif") + "&isDark=false&fallbackImage="
 
     category: qsTr("Images")
     description: qsTr("A film that the host fetches, with a spinner until it is there.")
@@ -20,7 +20,7 @@ GalleryPage {
             width: width.value
             height: 120
             keepAspectRatio: ratio.value
-            source: "image://dynamic/?imageProviderUrl=" + MediaPolicy.encode("qrc:/Resources/coverImageSpinner.gif") + "&isDark=false&fallbackImage="
+            source: page.film
         }
     }
     Sheet {
@@ -35,6 +35,16 @@ GalleryPage {
             label: qsTr("nothing to fetch")
 
             KDynamicAnimatedImage { width: 64; height: 64; isSpinnerShown: !App.animationsDisabled }
+        }
+        Cell {
+            label: qsTr("fallback")
+
+            KDynamicAnimatedImage { width: 96; height: 64; source: "image://dynamic/?imageProviderUrl=&isDark=false&fallbackImage=qrc:/Resources/empty-inbox.svg" }
+        }
+        Cell {
+            label: qsTr("cropped and mirrored")
+
+            KDynamicAnimatedImage { width: 96; height: 32; source: page.film; image.fillMode: Image.PreserveAspectCrop; image.mirror: true }
         }
         Cell {
             label: "isSpinnerShown: false"

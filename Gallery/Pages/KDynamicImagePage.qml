@@ -42,6 +42,11 @@ GalleryPage {
             KDynamicImage { width: 96; height: 64; showSpinner: false }
         }
         Cell {
+            label: qsTr("fallback")
+
+            KDynamicImage { width: 96; height: 64; image.source: "image://dynamic/?imageProviderUrl=&isDark=false&fallbackImage=qrc:/Resources/empty-inbox.svg" }
+        }
+        Cell {
             label: "mirrorEnabled"
 
             KDynamicImage { width: 96; height: 64; mirrorEnabled: true; image.source: "qrc:/Resources/sample-landscape.png" }

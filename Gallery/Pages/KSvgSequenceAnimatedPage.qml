@@ -11,6 +11,7 @@ GalleryPage {
     controls: [
         PropertySlider { id: frames; label: "frameCount"; from: 1; to: 4; value: 4 },
         PropertySlider { id: duration; label: "frameDuration"; from: 40; to: 1000; value: 200 },
+        PropertyColorSet { id: colorSet; label: "svgColorSetName"; initial: "text-primary" },
         PropertySwitch { id: paused; label: "paused" }
     ]
 
@@ -19,6 +20,7 @@ GalleryPage {
             width: 64
             height: 64
             imagePrefixName: "audio-wave-"
+            svgColorSetName: colorSet.colorSetName
             frameCount: frames.value
             frameDuration: duration.value
             running: !App.animationsDisabled
@@ -31,12 +33,31 @@ GalleryPage {
         Cell {
             label: qsTr("four frames")
 
-            KSvgSequenceAnimated { width: 32; height: 32; imagePrefixName: "audio-wave-"; frameCount: 4; running: !App.animationsDisabled }
+            Wave { frameCount: 4 }
         }
         Cell {
             label: qsTr("one frame")
 
-            KSvgSequenceAnimated { width: 32; height: 32; imagePrefixName: "audio-wave-"; running: false }
+            Wave {}
         }
+        Cell {
+            label: "svgColorSetName"
+            note: "hyperlink-accent-text"
+
+            Wave { frameCount: 4; svgColorSetName: "hyperlink-accent-text" }
+        }
+        Cell {
+            label: "frameDuration: 600"
+
+            Wave { frameCount: 4; frameDuration: 600 }
+        }
+    }
+
+    component Wave: KSvgSequenceAnimated {
+        width: 32
+        height: 32
+        imagePrefixName: "audio-wave-"
+        svgColorSetName: "text-primary"
+        running: !App.animationsDisabled
     }
 }

@@ -7,7 +7,7 @@ GalleryPage {
     id: page
 
     readonly property string picture: "qrc:/Resources/sample-landscape.png"
-    readonly property string film: "qrc:/Resources/coverImageSpinner.gif"
+    readonly property string film: "qrc:/Resources/coverImageSpinner@2x.gif"
     // A picture that is not there.
     readonly property string nowhere: MediaPolicy.encode("data:image/png;base64,")
 
@@ -45,9 +45,15 @@ GalleryPage {
             UTDynamicResource { width: 96; height: 64; imageSource: MediaPolicy.encode(page.picture) }
         }
         Cell {
+            label: qsTr("encoded, by theme")
+            note: qsTr("another picture in a dark one")
+
+            UTDynamicResource { width: 96; height: 64; imageSource: MediaPolicy.encode(page.picture, "qrc:/Resources/empty-inbox.svg") }
+        }
+        Cell {
             label: qsTr("film")
 
-            UTDynamicResource { width: 64; height: 64; imageSource: MediaPolicy.encode(page.film) }
+            UTDynamicResource { width: 54; height: 54; imageSource: MediaPolicy.encode(page.film) }
         }
         Cell {
             label: qsTr("none")

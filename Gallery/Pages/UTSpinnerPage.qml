@@ -1,4 +1,5 @@
 import QtQuick
+import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 
@@ -10,11 +11,14 @@ GalleryPage {
     controls: [
         PropertyChoice { id: type; label: "spinnerType"; options: ["Progress", "Loading", "Waiting"] },
         PropertySlider { id: value; label: "currentValue"; to: 100; value: 60 },
+        PropertySlider { id: size; label: qsTr("width and height"); from: 16; to: 128; value: 64 },
         PropertySwitch { id: check; label: "completeCheckMarkEnabled"; value: true }
     ]
 
     Playground {
         UTSpinner {
+            width: size.value
+            height: size.value
             spinnerType: type.currentIndex
             completeCheckMarkEnabled: check.value
             sayAccessible: false
@@ -58,12 +62,28 @@ GalleryPage {
         Cell {
             label: qsTr("Waiting")
 
-            UTSpinner { spinnerType: UTSpinner.Waiting; sayAccessible: false }
+            Waiting {}
         }
         Cell {
             label: qsTr("larger")
 
             UTSpinner { width: 64; height: 64; spinnerType: UTSpinner.Progress; currentValue: 60 }
+        }
+        Cell {
+            label: qsTr("no check mark")
+            note: "completeCheckMarkEnabled: false"
+
+            UTSpinner { spinnerType: UTSpinner.Progress; currentValue: 100; completeCheckMarkEnabled: false }
+        }
+    }
+
+    // The component itself goes round whatever the user wishes about animations.
+    component Waiting: UTSpinner {
+        spinnerType: UTSpinner.Waiting
+        sayAccessible: false
+        onCurrentValueChanged: {
+            if (App.animationsDisabled)
+                currentValue = 10;
         }
     }
 }

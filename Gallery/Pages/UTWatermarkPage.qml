@@ -29,26 +29,27 @@ GalleryPage {
     }
     Sheet {
         title: qsTr("Grounds")
+        minimumCellWidth: 330
 
         Cell {
             label: qsTr("on the page")
 
             KFrame {
-                width: 120
-                height: 88
+                width: 300
+                height: 200
 
-                UTWatermark { anchors.fill: parent; contentText: qsTr("Draft"); customOpacity: 0.3 }
+                UTWatermark { anchors.fill: parent; contentText: qsTr("Draft"); customOpacity: 0.4 }
             }
         }
         Cell {
             label: qsTr("on a picture")
 
             KImage {
-                width: 120
-                height: 80
+                width: 300
+                height: 200
                 source: "qrc:/Resources/sample-landscape.png"
 
-                UTWatermark { anchors.fill: parent; contentText: qsTr("Draft"); customOpacity: 0.3 }
+                UTWatermark { anchors.fill: parent; contentText: qsTr("Draft"); customOpacity: 0.4 }
             }
         }
     }

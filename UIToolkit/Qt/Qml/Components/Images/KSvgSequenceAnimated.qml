@@ -41,7 +41,7 @@ KSvgImage {
         id: animation
 
         from: 0
-        to: control.frameCount - 1
+        to: Math.max(0, control.frameCount - 1)
         duration: Math.max(0, control.frameDuration * control.frameCount)
         loops: Animation.Infinite
     }

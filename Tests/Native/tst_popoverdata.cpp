@@ -104,6 +104,7 @@ private Q_SLOTS:
     void sizeClasses();
     void whatPlacesAnew();
     void offsets();
+    void turnsWithItsArrow();
     void badInput();
 };
 
@@ -270,6 +271,23 @@ void tst_PopOverData::offsets()
     QVERIFY(data.arrowOffset() > 6);
     data.setTargetItemRect({screen.center(), QSize(40, 20)});
     QCOMPARE(data.arrowOffset(), 6);
+    QCOMPARE(changed.count(), 5); // the first place, without a target, was slid as well
+}
+
+void tst_PopOverData::turnsWithItsArrow()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    UTPopOverData data;
+    QList<int> anchors;
+    connect(&data, &UTPopOverData::arrowAnchorChanged, [&] {
+        anchors << data.arrowAnchor();
+        data.setPopOverSize(data.arrowAnchor() == Bottom ? QSize(100, 60) : QSize(110, 50)); // with the arrow
+    });
+    data.setArrowAnchor(Left);
+    data.setTargetItemRect({90, 100, screen.width() - 180, 20}); // leaves too little room on both sides
+    QCOMPARE(anchors, QList<int>({Left, Right, Bottom}));
+    QCOMPARE(data.popOverSize(), QSize(100, 60));
+    QCOMPARE(data.popOverPosition().y(), 100 - 60 - 2);
 }
 
 void tst_PopOverData::badInput()

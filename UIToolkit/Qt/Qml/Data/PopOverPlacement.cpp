@@ -9,20 +9,34 @@ using namespace UTPopOverEnum;
 class Placement
 {
 public:
-    Placement(const Request &request, const QRect &available)
+    Placement(const Request &request, const QRect &available, const Listener &stepped)
         : m_request(request)
         , m_screen(available)
+        , m_stepped(stepped)
         , m_place{{}, request.anchor, request.arrowOffset}
     {
     }
 
     Place result()
     {
+        tell();
         m_place.position = fit(preferred(), true);
         return m_place;
     }
 
 private:
+    void tell() const
+    {
+        if (m_stepped)
+            m_stepped(m_place);
+    }
+
+    void turnTo(ArrowAnchor anchor)
+    {
+        m_place.anchor = anchor;
+        tell();
+    }
+
     bool isHorizontal() const { return m_place.anchor == Left || m_place.anchor == Right; }
     bool isVertical() const { return m_place.anchor == Top || m_place.anchor == Bottom; }
 
@@ -84,13 +98,14 @@ private:
         const auto slideTo = [&](int &coordinate, int from, int to) {
             coordinate = to;
             m_place.arrowOffset = m_request.arrowOffset + from - to;
+            tell();
         };
 
         if (balloon.left() < m_screen.left()) {
             if (isVertical()) {
                 slideTo(position.rx(), balloon.left(), m_screen.left() + edgeDistance);
             } else if (m_place.anchor == Right) {
-                m_place.anchor = Left;
+                turnTo(Left);
                 sideFails = preferredX() + m_request.size.width() > m_screen.right();
                 needsSecondPass = true;
             }
@@ -98,30 +113,30 @@ private:
             if (isVertical()) {
                 slideTo(position.rx(), balloon.left(), m_screen.right() - m_request.size.width() - edgeDistance);
             } else if (m_place.anchor == Left) {
-                m_place.anchor = Right;
+                turnTo(Right);
                 sideFails = preferredX() < m_screen.left();
                 needsSecondPass = true;
             }
         }
         if (sideFails)
-            m_place.anchor = Bottom;
+            turnTo(Bottom);
 
         if (balloon.top() < m_screen.top()) {
             if (isHorizontal()) {
                 slideTo(position.ry(), balloon.top(), m_screen.top() + edgeDistance);
             } else if (m_place.anchor == Bottom) {
-                m_place.anchor = Top;
+                turnTo(Top);
                 if (preferredY() + m_request.size.height() > m_screen.bottom())
-                    m_place.anchor = Right;
+                    turnTo(Right);
                 needsSecondPass = true;
             }
         } else if (balloon.bottom() > m_screen.bottom()) {
             if (isHorizontal()) {
                 slideTo(position.ry(), balloon.top(), m_screen.bottom() - m_request.size.height() - edgeDistance);
             } else if (m_place.anchor == Top) {
-                m_place.anchor = Bottom;
+                turnTo(Bottom);
                 if (preferredY() < m_screen.top())
-                    m_place.anchor = Right;
+                    turnTo(Right);
                 needsSecondPass = true;
             }
         }
@@ -130,6 +145,7 @@ private:
 
     const Request &m_request;
     const QRect m_screen;
+    const Listener &m_stepped;
     Place m_place;
 };
 
@@ -150,7 +166,7 @@ QRect PopOverPlacement::screenFor(const QRect &target, const QList<Screen> &scre
     return best;
 }
 
-Place PopOverPlacement::place(const Request &request, const QRect &available)
+Place PopOverPlacement::place(const Request &request, const QRect &available, const Listener &stepped)
 {
-    return Placement(request, available).result();
+    return Placement(request, available, stepped).result();
 }

@@ -7,6 +7,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <functional>
+
 /*! Where a balloon goes that points at something on the screen. */
 namespace PopOverPlacement {
 
@@ -45,7 +47,10 @@ struct Place
 //! The available part of the screen that shows most of \a target, the first of several; a null rectangle without screens.
 QRect screenFor(const QRect &target, const QList<Screen> &screens);
 
+//! Told of each step of placing: the position is that of the end only.
+using Listener = std::function<void(const Place &)>;
+
 //! Where \a request fits on a screen with the part \a available.
-Place place(const Request &request, const QRect &available);
+Place place(const Request &request, const QRect &available, const Listener &stepped = {});
 
 } // namespace PopOverPlacement

@@ -3,6 +3,7 @@
 #include "PopOverPlacement.h"
 
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QScreen>
 
 #include <array>
@@ -17,6 +18,8 @@ struct SizeClass
 
 // By UTPopOverEnum::Size.
 constexpr std::array<SizeClass, 2> sizeClasses = {{{10, 8}, {16, 10}}};
+
+constexpr int maximumRounds = 4;
 
 QList<PopOverPlacement::Screen> screens()
 {
@@ -92,7 +95,21 @@ void UTPopOverData::refresh()
     setRadius(sizeClass.radius);
 }
 
+// A listener may answer a turned anchor with another size: an arrow takes room on its side. It is placed anew then, but
+// not for ever, for with no room anywhere each of two sizes may ask for the other.
 void UTPopOverData::place()
+{
+    m_isOutdated = true;
+    if (m_isPlacing)
+        return;
+    const QScopedValueRollback placing(m_isPlacing, true);
+    for (int round = 0; m_isOutdated && round < maximumRounds; ++round) {
+        m_isOutdated = false;
+        placeOnce();
+    }
+}
+
+void UTPopOverData::placeOnce()
 {
     const PopOverPlacement::Request request = {.target = m_targetItemRect,
                                                .size = m_popOverSize,
@@ -101,9 +118,10 @@ void UTPopOverData::place()
                                                .arrowSize = m_arrowSize,
                                                .radius = m_radius,
                                                .arrowOffset = m_requestedOffset};
-    const PopOverPlacement::Place place =
-        PopOverPlacement::place(request, PopOverPlacement::screenFor(m_targetItemRect, screens()));
-    set(m_effectiveOffset, place.arrowOffset, &UTPopOverData::arrowOffsetChanged);
-    setArrowAnchor(place.anchor);
-    setPopOverPosition(place.position);
+    const auto take = [this](const PopOverPlacement::Place &place) {
+        set(m_effectiveOffset, place.arrowOffset, &UTPopOverData::arrowOffsetChanged);
+        setArrowAnchor(place.anchor);
+    };
+    const QRect screen = PopOverPlacement::screenFor(m_targetItemRect, screens());
+    setPopOverPosition(PopOverPlacement::place(request, screen, take).position);
 }

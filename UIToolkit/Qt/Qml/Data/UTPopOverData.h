@@ -88,6 +88,7 @@ Q_SIGNALS:
 
 private:
     void place();
+    void placeOnce();
 
     template<typename T>
     void set(T &member, const T &value, void (UTPopOverData::*changed)())
@@ -109,6 +110,8 @@ private:
     int m_requestedOffset = 0;
     int m_effectiveOffset = 0;
     bool m_arrowVisible = false;
+    bool m_isPlacing = false;
+    bool m_isOutdated = false;
 };
 
 QML_DECLARE_TYPEINFO(UTPopOverData, QML_HAS_ATTACHED_PROPERTIES)

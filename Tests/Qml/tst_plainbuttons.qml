@@ -144,5 +144,19 @@ Item {
             button.enabled = false;
             compare(button.background.color, colorSet.disabled);
         }
+
+        function test_edgesInHighContrast() {
+            const buttons = ["KButton", "UTBadgeButton", "UTToolButton", "UTRectangleToggleButton", "WindowsButton"]
+                .map(type => make(type, { checkable: true, checked: true }));
+            const hasEdge = button => button.background.border.width > 0 && button.background.border.color.a > 0;
+            ThemeManager.theme = "highContrast";
+            verify(buttons.every(hasEdge));
+            for (const button of buttons) {
+                button.enabled = false;
+                compare(hasEdge(button), button.background.color.a > 0, button);
+            }
+            ThemeManager.theme = "light";
+            verify(!buttons.some(hasEdge));
+        }
     }
 }

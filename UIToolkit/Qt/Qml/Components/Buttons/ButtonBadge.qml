@@ -34,6 +34,7 @@ Rectangle {
     visible: badgeText.length > 0
     radius: height / 2
     color: Script.plainColorOf(control, "button-accent-fill-background")
+    border.color: Script.plainColorOf(control, "button-accent-fill-border")
 
     Text {
         id: number

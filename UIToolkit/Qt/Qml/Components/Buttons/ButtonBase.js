@@ -96,16 +96,27 @@ function plainColorOf(control, name) {
 }
 
 // Gives a plain button the border that most never show: in the colour of the focus while the keyboard's is on it, else in
-// its own, if it has one.
+// its own, if it has one, or in that which all buttons have in high contrast, where fills hardly stand out.
 function needBorder(control) {
     const border = control.background?.border;
     if (!border || control.parts?.border)
         return;
     control.parts = Object.assign(control.parts ?? {}, { border: border });
     const isFocused = () => control.activeFocus && Host.App.isKeyboardFocus && control.focusColorSetName.length > 0;
-    const setName = () => isFocused() ? control.focusColorSetName : control.borderColorSetName;
-    border.width = Qt.binding(() => isFocused() ? Math.max(2, control.borderWidth) : setName().length > 0 ? control.borderWidth : 0);
-    border.color = Qt.binding(() => setName().length > 0 ? plainColorOf(control, setName()) : "transparent");
+    const ownName = () => control.borderColorSetName || "button-ghost-border"; // the latter is seen in high contrast only
+    border.width = Qt.binding(() => isFocused() ? Math.max(2, control.borderWidth) : control.borderWidth);
+    border.color = Qt.binding(() => plainColorOf(control, isFocused() ? control.focusColorSetName : ownName()));
+}
+
+// In high contrast, gives the \a ground of a button that shows one only now and then an edge for as long as it does.
+// Called when the ground changes its colour, and thus after a change of the theme.
+function needEdge(control, ground) {
+    if (!Host.ThemeManager.isHighContrastTheme || ground.color.a === 0 || control.parts?.edge)
+        return;
+    control.parts = Object.assign(control.parts ?? {}, { edge: ground });
+    ground.border.width = Qt.binding(() => Host.ThemeManager.isHighContrastTheme && ground.color.a > 0 ? 1 : 0);
+    ground.border.color = Qt.binding(() => (Host.ThemeManager.globalTheme,
+        ThemeUtils.getColor(control, Host.App.getColorSet("button-ghost-border", control.themeType))));
 }
 
 // How far from where its line begins the icon, text and badge of a plain button's label begin; they lie together.

@@ -44,6 +44,10 @@ UTButtonBase {
         radius: control.isRectangle ? 0 : control.radius
         color: Script.plainColor(control, control.backgroundColorSet)
         border.width: 0
+        onColorChanged: {
+            if (ThemeManager.isHighContrastTheme)
+                Script.needBorder(control);
+        }
     }
     contentItem: ButtonLabel { control: control }
 

@@ -8,6 +8,7 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 import "qrc:/qt/qml/UIToolkitQml/IndicatorBadges.js" as IndicatorBadges
 import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
@@ -28,6 +29,7 @@ UTButtonBase {
     background: Rectangle {
         radius: height / 2
         color: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet("button-ghost-background", control.themeType)))
+        onColorChanged: Script.needEdge(control, this)
     }
     contentItem: KSvgIcon {
         readonly property var kind: IndicatorBadges.kindOf(control.indicatorType)

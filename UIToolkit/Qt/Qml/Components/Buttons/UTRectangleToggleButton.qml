@@ -8,6 +8,7 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
 UTButtonBase {
@@ -31,6 +32,7 @@ UTButtonBase {
         radius: 4
         color: ThemeUtils.getColor(control, (ThemeManager.globalTheme,
             App.getColorSet(control.checked ? "button-ghost-active-background" : "button-ghost-background", control.themeType)))
+        onColorChanged: Script.needEdge(control, this)
     }
     contentItem: KSvgIcon {
         svgName: control.buttonIcon

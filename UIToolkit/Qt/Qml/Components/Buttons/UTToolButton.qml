@@ -8,6 +8,7 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
 UTButtonBase {
@@ -47,6 +48,7 @@ UTButtonBase {
     background: Rectangle {
         radius: priv.cornerRadius
         color: (ThemeManager.globalTheme, control.stateColor(control.checked ? "button-ghost-active-background" : "button-ghost-background"))
+        onColorChanged: Script.needEdge(control, this)
     }
     contentItem: KSvgIcon {
         svgName: control.iconName

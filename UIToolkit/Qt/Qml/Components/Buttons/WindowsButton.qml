@@ -8,6 +8,7 @@
 import QtQuick
 import Korvu 1.0
 import UIToolkitQml_Private 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
 UTButtonBase {
@@ -34,6 +35,7 @@ UTButtonBase {
 
     background: Rectangle {
         color: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet(priv.look.colors + "-background", control.themeType)))
+        onColorChanged: Script.needEdge(control, this)
     }
     contentItem: KSvgIcon {
         svgName: priv.look.icon

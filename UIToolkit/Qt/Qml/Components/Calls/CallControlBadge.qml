@@ -8,7 +8,7 @@
 import QtQuick
 import UIToolkitQml_Private_Data 1.0
 
-KRectangle {
+KFrame {
     id: badge
 
     required property UTCallControlButton control
@@ -16,10 +16,12 @@ KRectangle {
     readonly property bool isMirrored: control.leftButton.mirrored
     readonly property real dotSize: 10
     readonly property real rim: 4
+    readonly property real usualHeight: 16
+    // A large text grows outwards, so that the icon stays to be seen.
+    readonly property real overlap: isDot ? -2 : rim + Math.max(0, Math.round((height - usualHeight) / 2))
 
     x: isMirrored ? -overlap : control.width - width + overlap
-    readonly property real overlap: isDot ? -2 : rim
-    y: isDot ? 0 : -rim
+    y: isDot ? 0 : -overlap
     z: 1
     width: isDot ? dotSize : Math.max(height, label.implicitWidth + 2 * rim)
     height: isDot ? dotSize : label.implicitHeight + 2
@@ -27,6 +29,7 @@ KRectangle {
     visible: (control.badgeVisible || !isDot) && control.UTCallControlButtonData.canShowBadge
     themeType: control.themeType
     backgroundColorSetName: "button-accent-fill-background"
+    borderColorSetName: "button-accent-fill-border"
 
     KText {
         id: label

@@ -107,7 +107,7 @@ KFrame {
     // Halves that a line parts are checked each on its own; else the right one is an annex of the left one.
     backgroundColorSetName: leftChecked && !UTCallControlButtonData.separatorVisible ? UTCallControlButtonData.checkedBackgroundColorSetName
         : UTCallControlButtonData.backgroundColorSetName
-    borderColorSetName: UTCallControlButtonData.borderColorSetName
+    borderColorSetName: UTCallControlButtonData.borderColorSetName || "button-ghost-border" // seen in high contrast only
 
     // Handlers in place of bindings: most buttons keep the first values, and have nothing but an icon.
     onButtonTypeChanged: {

@@ -16,13 +16,14 @@ UTButtonBase {
     id: control
 
     property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
-    //! A value of UTIndicatorBadgeEnum; -1, the default, and unknown ones show nothing.
+    //! A value of UTIndicatorBadgeEnum; with -1, the default, None and unknown ones there is no button to be seen.
     property int indicatorType: -1
 
     function focusRingSettings(): var {
         return { themeType: () => control.themeType };
     }
 
+    visible: IndicatorBadges.kindOf(indicatorType).icon.length > 0
     implicitWidth: 24
     implicitHeight: 24
 

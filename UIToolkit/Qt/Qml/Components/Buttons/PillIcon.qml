@@ -33,10 +33,11 @@ UTSvgResource {
 
     x: {
         const isApart = control.alignment !== undefined && !control.isIconAlignText;
+        // Less than none where the text is too long.
         let freeRoom = isApart ? 0 : label.width - label.leftPadding - label.contentWidth - label.rightPadding;
-        if (freeRoom > 0 && label.effectiveHorizontalAlignment === (isAfter ? Text.AlignRight : Text.AlignLeft))
+        if (label.effectiveHorizontalAlignment === (isAfter ? Text.AlignRight : Text.AlignLeft))
             freeRoom = 0;
-        else if (freeRoom > 0 && label.effectiveHorizontalAlignment === Text.AlignHCenter)
+        else if (label.effectiveHorizontalAlignment === Text.AlignHCenter)
             freeRoom = Math.round(freeRoom / 2);
         return isAfter ? label.width - width - freeRoom : freeRoom;
     }

@@ -13,6 +13,7 @@
     \endqml
 */
 import QtQuick
+import Korvu 1.0
 import UIToolkitQml 1.0
 import "qrc:/qt/qml/UIToolkitQml/PillPairColors.js" as Script
 
@@ -45,7 +46,7 @@ PillPair {
     property string leftAccessibleName
     property string rightAccessibleName
 
-    readonly property real shortTextRoom: isSmallSize ? 40 : 56
+    readonly property real shortTextRoom: (isSmallSize ? 40 : 56) * App.textScale
 
     signal leftClicked()
     signal rightClicked()

@@ -188,6 +188,9 @@ void tst_PillButtonData::customized()
     QCOMPARE(data.textColorData()->color(), QColor(0xff8000));
     QCOMPARE(data.rightIconColorData()->color(), QColor(0xff8000));
     QVERIFY(data.iconColorData()->colorCustomized());
+    data.setIconColorCustomized(u"no colour"_s);
+    data.refresh(); // without a word
+    QVERIFY(!data.textColorData()->color().isValid());
     data.setStyle(UTButtonStyle::Ghost);
     QVERIFY(!data.textColorData()->colorCustomized());
     QCOMPARE(data.textColorData()->color(), ghost);

@@ -35,6 +35,7 @@ Item {
 
         visible: false
         text: control.contentText
+        textFormat: Text.PlainText
         font.family: FontConstants.defaultFamily
         font.pointSize: control.UTWatermarkData.fontPointSize
     }

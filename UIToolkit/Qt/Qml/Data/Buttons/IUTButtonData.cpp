@@ -128,7 +128,7 @@ void IUTButtonData::setColor(Slot slot, bool customized, const QString &colorOrT
     if (!color)
         return;
     if (customized)
-        color->setColor(QColor(colorOrToken));
+        color->setColor(QColor::fromString(colorOrToken));
     else
         color->setToken(colorOrToken);
 }

@@ -105,6 +105,12 @@ Item {
             compare(button.Accessible.name, "Tip");
             button.text = "Label";
             compare(button.Accessible.name, "Label");
+            for (const order of ["tooltip: me + '!'; Accessible.name: me", "Accessible.name: me; tooltip: me + '!'"]) {
+                const named = createTemporaryQmlObject("import QtQuick; import UIToolkitQml 1.0; UTRoundButton { property string me: 'Me'; %1 }".arg(order), stage);
+                compare(named.Accessible.name, "Me");
+                named.me = "You";
+                compare(named.Accessible.name, "You", "the application knows better");
+            }
         }
         function test_pressByAssistiveTechnology() {
             makeButton({ checkable: true, isInExclusiveGroup: true, checked: true });

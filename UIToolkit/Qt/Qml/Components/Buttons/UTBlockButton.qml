@@ -60,10 +60,13 @@ UTButtonBase {
         elide: Text.ElideRight
     }
 
-    // The base names a button with a tool tip by its text as it is.
-    onTooltipChanged: Accessible.name = Qt.binding(() => control.UTBlockButtonData.accessibleText || control.tooltip)
+    // Where the base named it by its text as it is.
+    onTooltipChanged: {
+        if (Accessible.name === (text || tooltip))
+            Accessible.name = Qt.binding(() => control.UTBlockButtonData.accessibleText || control.tooltip);
+    }
 
-    Accessible.name: UTBlockButtonData.accessibleText
+    Accessible.name: UTBlockButtonData.accessibleText || tooltip
 
     QtObject {
         id: priv

@@ -80,6 +80,9 @@ T.Button {
     }
     onAccessibleTextChanged: Script.say(control, accessibleText)
 
-    // The text is the name without further ado.
-    onTooltipChanged: Accessible.name = Qt.binding(() => control.text || control.tooltip)
+    // The text is the name without further ado; an application that names the button itself knows better.
+    onTooltipChanged: {
+        if (Accessible.name === "" || Accessible.name === text)
+            Accessible.name = Qt.binding(() => control.text || control.tooltip);
+    }
 }

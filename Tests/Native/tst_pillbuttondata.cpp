@@ -161,6 +161,10 @@ void tst_PillButtonData::iconsFollow()
     UTPillButton button;
     UTPillButtonData data(&button);
     data.setStyle(UTButtonStyle::Primary);
+    const QSignalSpy themes(&data, &UTPillButtonData::onThemeTypeChanged);
+    for (const QString &theme : {u"dark"_s, u"dark"_s, u"global"_s})
+        data.setThemeType(theme);
+    QCOMPARE(themes.count(), 2);
     const auto icons = [&data] {
         return QStringList{data.iconColorData()->token(), data.rightIconColorData()->token()};
     };

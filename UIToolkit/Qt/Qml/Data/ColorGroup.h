@@ -34,11 +34,11 @@ public:
     UTColorData *iconColorData() const { return colorData(Icon); }
     UTColorData *rightIconColorData() const { return colorData(RightIcon); }
 
-    void setThemeType(const QString &themeType);
+    virtual void setThemeType(const QString &themeType);
     void setEventData(UTEventData *eventData);
 
 Q_SIGNALS:
-    //! Part of the interface; setThemeType() does not emit it, and that is on purpose.
+    //! Part of the interface; setThemeType() does not emit it, and that is on purpose. IUTButtonData does.
     void onThemeTypeChanged();
     void eventDataChanged();
 

@@ -90,6 +90,14 @@ IUTButtonData::IUTButtonData(QObject *attachee, const char *component)
     connect(App::instance(), &App::textScaleChanged, this, &IUTButtonData::updateSize);
 }
 
+void IUTButtonData::setThemeType(const QString &type)
+{
+    if (themeType() == type)
+        return;
+    BoxData::setThemeType(type);
+    Q_EMIT onThemeTypeChanged();
+}
+
 void IUTButtonData::refresh()
 {
     updateTokens();

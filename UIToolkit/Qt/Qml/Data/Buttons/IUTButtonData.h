@@ -37,6 +37,7 @@ public:
     QString iconColorCustomized() const { return m_iconColorCustomized; }
     int height() const { return m_height; }
 
+    void setThemeType(const QString &themeType) override;
     void setStyle(UTButtonStyle::Style style) { set(m_style, style, &IUTButtonData::styleChanged); }
     void setSize(UTButtonSize::Size size) { set(m_size, size, &IUTButtonData::sizeChanged); }
     void setIconColorSetName(const QString &name)

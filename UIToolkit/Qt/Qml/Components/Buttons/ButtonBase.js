@@ -1,6 +1,7 @@
 .pragma library
 .import QtQuick 2.15 as QtQuick
 .import Korvu 1.0 as Host
+.import "qrc:/qt/qml/UIToolkitQml/DrawUtils.js" as DrawUtils
 .import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
 // What UTButtonBase does. It is apart because each function in a component costs each of its instances.
@@ -35,6 +36,18 @@ function tooltipText(control) {
     const prepended = control.isTextEilded ? control.text : "";
     const appended = control.tooltip !== control.text ? control.tooltip : "";
     return prepended && appended ? qsTr("%1\n%2").arg(prepended).arg(appended) : prepended || appended;
+}
+
+// The focus ring's rectangle for the \a half of a button: where it joins the other half the line lies on the joint, and not
+// on what the other half shows.
+function ringOfHalf(half) {
+    const corner = DrawUtils.RectangularCorners;
+    const corners = half.mirrored ? DrawUtils.swapRectangularCornersLeftRight(half.squareCorners) : half.squareCorners;
+    const cut = (one, other) => corners & one && corners & other ? 3 : 0; // the middle of the ring's lines
+    const left = cut(corner.TopLeft, corner.BottomLeft);
+    const top = cut(corner.TopLeft, corner.TopRight);
+    return Qt.rect(left, top, half.width - left - cut(corner.TopRight, corner.BottomRight),
+        half.height - top - cut(corner.BottomLeft, corner.BottomRight));
 }
 
 // Acts on release, and only if the key went down on this button. Auto-repeated keys are swallowed.

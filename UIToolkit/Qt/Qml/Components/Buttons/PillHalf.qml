@@ -61,7 +61,11 @@ UTButtonBase {
     readonly property real naturalWidth: startPadding + iconRoom + secondIconRoom + labelRoom + endPadding
 
     function focusRingSettings(): var {
-        return { rectangularCornerMask: () => half.squareCorners, themeType: () => half.themeType };
+        return {
+            rectangularCornerMask: () => half.squareCorners,
+            customRect: () => Script.ringOfHalf(half),
+            themeType: () => half.themeType
+        };
     }
 
     implicitWidth: naturalWidth

@@ -21,6 +21,7 @@ import Korvu 1.0
 import UIToolkitQml 1.0
 import UIToolkitQml_Private 1.0
 import UIToolkitQml_Private_Data 1.0
+import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 import "qrc:/qt/qml/UIToolkitQml/CallControl.js" as CallControl
 import "qrc:/qt/qml/UIToolkitQml/ThemeUtils.js" as ThemeUtils
 
@@ -144,7 +145,11 @@ KFrame {
         property int squareCorners: 0
 
         function focusRingSettings(): var {
-            return { rectangularCornerMask: () => leftHalf.squareCorners, themeType: () => control.themeType };
+            return {
+                rectangularCornerMask: () => leftHalf.squareCorners,
+                customRect: () => Script.ringOfHalf(leftHalf),
+                themeType: () => control.themeType
+            };
         }
 
         width: control.width - control.rightRoom

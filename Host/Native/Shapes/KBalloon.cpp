@@ -1,15 +1,19 @@
 #include "KBalloon.h"
 
+#include "WindowMask.h"
+
 #include <QPainter>
 #include <QPen>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
 constexpr qreal defaultArrowSize = 10;
 constexpr qreal defaultRadius = 8;
+constexpr qreal cutTolerance = 0.1; // pixels halfway outside belong to the cut as well, on all sides alike
 
 } // namespace
 
@@ -19,6 +23,12 @@ KBalloon::KBalloon(QQuickItem *parent)
     m_shape.arrowSize = defaultArrowSize;
     m_shape.radius = defaultRadius;
     setAntialiasing(true);
+    watchWindow(window());
+}
+
+KBalloon::~KBalloon()
+{
+    watchWindow(nullptr);
 }
 
 template<typename T>
@@ -28,6 +38,7 @@ void KBalloon::change(T &member, const T &value, void (KBalloon::*changed)())
         return;
     member = value;
     update();
+    shapeWindow();
     Q_EMIT(this->*changed)();
 }
 
@@ -113,9 +124,14 @@ void KBalloon::setBorderWidth(qreal width)
 
 void KBalloon::paint(QPainter *painter)
 {
-    painter->setRenderHint(QPainter::Antialiasing);
     const QRectF bounds(0, 0, width(), height());
-    if (m_borderWidth <= 0 || m_borderColor.alpha() == 0) {
+    const bool hasBorder = m_borderWidth > 0 && m_borderColor.alpha() > 0;
+    // The smooth edge of a cut window would shade off into black.
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    if (m_isMasked)
+        painter->fillPath(cut(bounds), hasBorder ? m_borderColor : m_backgroundColor);
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (!hasBorder) {
         painter->fillPath(m_shape.outline(bounds), m_backgroundColor);
         return;
     }
@@ -129,4 +145,55 @@ void KBalloon::paint(QPainter *painter)
     painter->setBrush(m_backgroundColor);
     painter->setPen(QPen(m_borderColor, line, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter->drawPath(middle.outline(bounds.adjusted(inset, inset, -inset, -inset)));
+}
+
+void KBalloon::itemChange(ItemChange change, const ItemChangeData &value)
+{
+    if (change == ItemSceneChange)
+        watchWindow(value.window);
+    QQuickPaintedItem::itemChange(change, value);
+}
+
+void KBalloon::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
+    shapeWindow();
+}
+
+void KBalloon::watchWindow(QQuickWindow *window)
+{
+    for (QMetaObject::Connection &resize : m_resizes)
+        disconnect(resize);
+    if (m_shaped && m_isMasked)
+        WindowMask::set(*m_shaped, {});
+    m_shaped = nullptr;
+    m_isMasked = false;
+    if (!window || !WindowMask::isNeeded(*window))
+        return;
+    m_shaped = window;
+    m_resizes[0] = connect(window, &QWindow::widthChanged, this, &KBalloon::shapeWindow);
+    m_resizes[1] = connect(window, &QWindow::heightChanged, this, &KBalloon::shapeWindow);
+    shapeWindow();
+}
+
+bool KBalloon::fillsWindow() const
+{
+    return m_shaped->color().alpha() == 0 && !m_shaped->size().isEmpty()
+        && mapRectToScene(boundingRect()).toAlignedRect() == QRect({}, m_shaped->size());
+}
+
+QPainterPath KBalloon::cut(const QRectF &bounds) const
+{
+    return m_shape.outline(bounds.adjusted(-cutTolerance, -cutTolerance, cutTolerance, cutTolerance));
+}
+
+void KBalloon::shapeWindow()
+{
+    if (!m_shaped)
+        return;
+    const bool wasMasked = std::exchange(m_isMasked, fillsWindow());
+    if (m_isMasked != wasMasked)
+        update();
+    if (m_isMasked || wasMasked)
+        WindowMask::set(*m_shaped, m_isMasked ? cut(mapRectToScene(boundingRect())) : QPainterPath());
 }

@@ -4,7 +4,9 @@
 #include "korvuui_export.h"
 
 #include <QColor>
+#include <QPointer>
 #include <QQuickPaintedItem>
+#include <QQuickWindow>
 
 /*!
     A balloon with an arrow on one side: the ground of tool tips, pop-overs and menus. The arrow lies within the item,
@@ -20,6 +22,8 @@
 
     Anchor and alignment are plain integers, so that enumerations of the same values from elsewhere fit. They are not
     mirrored for right-to-left text: whoever places a balloon knows which side its target is on.
+
+    A transparent window that a balloon fills takes its outline where the display would show black corners.
 */
 class KORVUUI_EXPORT KBalloon : public QQuickPaintedItem
 {
@@ -55,6 +59,7 @@ public:
     Q_ENUM(ArrowAlignment)
 
     explicit KBalloon(QQuickItem *parent = nullptr);
+    ~KBalloon() override;
 
     //! An ArrowAnchor; None by default.
     int arrowAnchor() const;
@@ -100,11 +105,23 @@ Q_SIGNALS:
     void borderColorChanged();
     void borderWidthChanged();
 
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
 private:
+    bool fillsWindow() const;
+    QPainterPath cut(const QRectF &bounds) const;
+    void watchWindow(QQuickWindow *window);
+    void shapeWindow();
+
     template<typename T>
     void change(T &member, const T &value, void (KBalloon::*changed)());
 
     KBalloonShape m_shape;
+    QPointer<QQuickWindow> m_shaped;
+    QMetaObject::Connection m_resizes[2];
+    bool m_isMasked = false;
     QColor m_backgroundColor{Qt::white};
     QColor m_borderColor{Qt::transparent};
     qreal m_borderWidth = 1;

@@ -50,6 +50,7 @@ Card {
             margins: Metrics.medium
             topMargin: 0
         }
+        topPadding: stage.color.a > 0 ? Metrics.small : 0
         bottomPadding: Metrics.medium
         spacing: 2
 

@@ -22,6 +22,7 @@ Column {
     Segments {
         id: segments
 
+        anchors.left: parent.left
         width: Math.min(parent.width, implicitWidth)
         name: control.label
     }

@@ -18,6 +18,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery
 
@@ -35,6 +36,7 @@ Column {
     spacing: Metrics.small
 
     GalleryText {
+        width: parent.width
         visible: control.title.length > 0
         text: control.title
         font: FontConstants.subheaderPrimary
@@ -49,7 +51,8 @@ Column {
                 fill: parent
                 margins: Metrics.large
             }
-            contentWidth: table.width
+            contentWidth: Math.max(width, table.width)
+            contentX: table.isMirrored ? contentWidth - width : 0
             flickableDirection: Flickable.HorizontalFlick
             boundsBehavior: Flickable.StopAtBounds
             clip: contentWidth > width
@@ -57,14 +60,16 @@ Column {
             Column {
                 id: table
 
-                readonly property real labelWidth: 120
+                readonly property bool isMirrored: LayoutMirroring.enabled
+                readonly property real labelWidth: 120 * App.textScale
                 readonly property real columnWidth: {
-                    let width = 72;
+                    let width = 72 * App.textScale;
                     for (let i = 0; i < children.length; ++i)
                         width = Math.max(width, children[i].widest ?? 0);
                     return width;
                 }
 
+                x: isMirrored ? parent.width - width : 0
                 spacing: Metrics.medium
 
                 Row {

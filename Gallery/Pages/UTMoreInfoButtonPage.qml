@@ -19,7 +19,7 @@ GalleryPage {
 
     Playground {
         Row {
-            spacing: 4
+            spacing: 8
 
             GalleryText {
                 anchors.verticalCenter: parent.verticalCenter

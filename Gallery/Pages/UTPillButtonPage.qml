@@ -82,7 +82,7 @@ GalleryPage {
             required property string row
             required property StateRecord exampleState
 
-            text: exampleState.checked ? qsTr("Muted") : qsTr("Mute")
+            text: qsTr("Mute")
             leftIcon: exampleState.checked ? "microphone-muted-bold" : "microphone-bold"
             buttonStyle: UTButtonStyle[row]
             buttonSize: UTButtonSize.S

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <private/qmetaobjectbuilder_p.h>
+
+#include <memory>
+
+//! The base of every native test: a warning that a test does not announce fails it.
+class NativeTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    //! What \a source describes, which must be a \a T.
+    template<typename T = QObject>
+    static std::unique_ptr<T> create(QQmlEngine &engine, const QByteArray &source, const QVariantMap &properties = {})
+    {
+        QQmlComponent component(&engine);
+        component.setData(source, QUrl());
+        QObject *object = component.createWithInitialProperties(properties);
+        if (!qobject_cast<T *>(object))
+            qFatal("%s\n%s", source.constData(), qPrintable(component.errorString()));
+        return std::unique_ptr<T>(qobject_cast<T *>(object));
+    }
+
+    //! Shows \a window and waits until it has the focus.
+    static bool activate(QQuickWindow &window)
+    {
+        window.show();
+        window.requestActivate();
+        return QTest::qWaitForWindowActive(&window);
+    }
+
+    //! Announces what a data object says when it is not attached to a \a component.
+    static void expectMisplaced(const char *component)
+    {
+        const QByteArray message = "This property can't be used outside it's supported component (%1).";
+        QTest::ignoreMessage(QtWarningMsg, QByteArray(message).replace("%1", component));
+    }
+
+protected Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+};
+
+//! Takes text as any kind of literal.
+class AnyText
+{
+public:
+    AnyText() = default;
+    AnyText(const char *text)
+        : m_text(QString::fromUtf8(text))
+    {
+    }
+    template<std::convertible_to<QString> Text>
+    AnyText(const Text &text)
+        : m_text(text)
+    {
+    }
+    operator QString() const { return m_text; }
+
+private:
+    QString m_text;
+};
+
+/*!
+    The rows of a test function, each with a value for every column:
+
+        const Table<QString, int> row{"text", "length"};
+        row("empty", "", 0);
+*/
+template<typename... Values>
+class Table
+{
+    template<typename Value>
+    using Name = const char *;
+    template<typename Value>
+    using Cell = std::conditional_t<std::is_same_v<Value, QString>, AnyText, Value>;
+
+public:
+    explicit Table(Name<Values>... names) { (QTest::addColumn<Values>(names), ...); }
+
+    void operator()(const AnyText &name, const Cell<Values> &...cells) const
+    {
+        (QTest::newRow(qPrintable(QString(name))) << ... << static_cast<const Values &>(cells));
+    }
+};
+
+//! An object whose class has the name of a component: data objects look at no more than that.
+class StandIn : public QObject
+{
+public:
+    explicit StandIn(const char *component)
+    {
+        QMetaObjectBuilder builder;
+        builder.setClassName(component);
+        builder.setSuperClass(&QObject::staticMetaObject);
+        m_metaObject.reset(builder.toMetaObject());
+    }
+    const QMetaObject *metaObject() const override { return m_metaObject.get(); }
+
+private:
+    struct Free
+    {
+        void operator()(QMetaObject *object) const { std::free(object); }
+    };
+    std::unique_ptr<QMetaObject, Free> m_metaObject;
+};

@@ -1,13 +1,11 @@
+#include "NativeTest.h"
 #include "UTListAvatarSearchItem.h"
 #include "UTListData.h"
 
 #include <QAbstractListModel>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QStandardItemModel>
-#include <QTest>
 
 #include <limits>
 
@@ -156,285 +154,237 @@ void setUp(UTListData &data, const QVariant &model)
 } // namespace
 
 //! Groups, positions and words of lists.
-class tst_ListData : public QObject
+class tst_ListData : public NativeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(u".?"_s)); }
-    void words_data();
-    void words();
-    void anyChange();
-    void models_data();
-    void models();
-    void trees();
-    void liars();
-    void signalOnlyForNews();
+    void words_data()
+    {
+        const Table<QString, int, bool, QString, QString, QString> row{"rows", "module",      "clear",
+                                                                       "list", "description", "explanation"};
+        // The description is that of the last row, the explanation says everything.
+        row("empty", "", Default, false, "0 Items", "", "List, 0 Items, ");
+        row("one", "-", Default, false, "1 Item", "1 of 1", "List, 1 Item, ");
+        row("several", "-----", AddContact, false, "5 Items", "5 of 5", "List, 5 Items, ");
+        row("one in the scheduler", "-", MeetingScheduler, false, "1 Item", "1 of 1", "1 Item, ");
+        row("two in the scheduler", "--", MeetingScheduler, false, "2 Items", "2 of 2", "2 Items, ");
+        row("many short-cuts", "-------", Keyboardshortcuts, false, "7 Items", "", "Tree, 7 Items, ");
+        row("one short-cut", "-", Keyboardshortcuts, false, "1 Item", "", "List, 1 Item, ");
+        row("header only", "A", Default, false, "1 Group", "A, Group", "List, 1 Group, A, Group");
+        row("group with a divider", "A--|--", Default, false, "1 Group", "4 of 4", "List, 1 Group, A, Group");
+        row("selectable header", "s--", Default, false, "1 Group", "3 of 3", "List, 1 Group, s, Group");
+        row("group after loose rows", "--A-", Default, false, "2 Groups", "1 of 1", "List, 2 Groups, A, Group");
+        row("two groups", "A-B-", MeetingScheduler, false, "2 Groups", "1 of 1", "2 Groups, B, Group");
+        row("header without a name", "#--", Default, false, "3 Items", "2 of 2", "List, 3 Items, ");
+        row("second without a name", "A-#-", Default, false, "2 Groups", "1 of 1", "List, 2 Groups, ");
+        row("clear", "---", Default, true, "", "", "");
+        row("clear group", "A--", Default, true, "", "2 of 2", "A, Group");
+        row("unknown module", "A--", 99, false, "1 Group", "2 of 2", "List, 1 Group, A, Group");
+        row("phone number", "-", CallingTransfer, false, "", "Phone number, list", "");
+        row("conference", "-A", CallingConference, false, "", "A, list", "");
+        row("call", "A-", Calling, false, "", "", "");
+    }
 
-private:
-    std::unique_ptr<QObject> create(const QString &members);
+    void words()
+    {
+        QFETCH(QString, rows);
+        QFETCH(int, module);
+        QFETCH(bool, clear);
+        Rows model(rows);
+        UTListData data;
+        setUp(data, QVariant::fromValue(&model));
+        data.setSourceModule(module);
+        data.setIsClearMode(clear);
+        const int last = int(rows.size()) - 1;
+        QTEST(data.listDescription(), "list");
+        QTEST(data.itemDescription(last), "description");
+        QTEST(data.itemExplanation(last, true, true), "explanation");
 
-    QQmlEngine m_engine;
-};
+        // The hint is spoken once, by the first row of a group of phone numbers only.
+        const QHash<int, QString> hints = {
+            {Calling,
+             u"Use Enter to make an audio call, Use Tab for more options, Use Shift+F10 to open context menu on people list-items."_s},
+            {CallingTransfer, u"Use Tab for more options"_s},
+            {CallingConference, u"Use Enter to make an audio call, Use Tab for more options"_s}};
+        const QString hint = hints.value(module);
+        data.setShowFirstTime(true);
+        const QString first = data.itemDescription(0);
+        QCOMPARE(data.showFirstTime(), hint.isEmpty());
+        QCOMPARE(first,
+                 data.itemDescription(0) + (hint.isEmpty() ? hint : u", Use up & down arrow to navigate, "_s + hint));
+    }
 
-std::unique_ptr<QObject> tst_ListData::create(const QString &members)
-{
-    QQmlComponent component(&m_engine);
-    component.setData(
-        u"import QtQml\nimport QtQml.Models\nimport UIToolkitQml 1.0\nimport UIToolkitQml_Private_Data 1.0\n"
-        "UTListData { id: data; %1 }"_s.arg(members)
-            .toUtf8(),
-        QUrl());
-    std::unique_ptr<QObject> object(component.create());
-    if (!object)
-        qWarning("%s", qPrintable(component.errorString()));
-    return object;
-}
-
-void tst_ListData::initTestCase()
-{
-    // The first import makes the data module known.
-    QQmlComponent component(&m_engine);
-    component.setData("import QtQml\nimport UIToolkitQml 1.0\nQtObject {}", QUrl());
-    const std::unique_ptr<QObject> object(component.create());
-    QVERIFY2(object, qPrintable(component.errorString()));
-}
-
-void tst_ListData::words_data()
-{
-    QTest::addColumn<QString>("rows");
-    QTest::addColumn<int>("module");
-    QTest::addColumn<bool>("clear");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("description"); // of the last row
-    QTest::addColumn<QString>("explanation"); // with everything
-
-    const auto row = [](const char *rows, int module, bool clear, const char *list, const char *description,
-                        const char *explanation) {
-        QTest::addRow("\"%s\" in %d%s", rows, module, clear ? ", clear" : "")
-            << QString::fromLatin1(rows) << module << clear << QString::fromLatin1(list)
-            << QString::fromLatin1(description) << QString::fromLatin1(explanation);
-    };
-    row("", Default, false, "0 Items", "", "List, 0 Items, ");
-    row("-", Default, false, "1 Item", "1 of 1", "List, 1 Item, ");
-    row("-----", AddContact, false, "5 Items", "5 of 5", "List, 5 Items, ");
-    row("-", MeetingScheduler, false, "1 Item", "1 of 1", "1 Item, ");
-    row("--", MeetingScheduler, false, "2 Items", "2 of 2", "2 Items, ");
-    row("-------", Keyboardshortcuts, false, "7 Items", "", "Tree, 7 Items, ");
-    row("-", Keyboardshortcuts, false, "1 Item", "", "List, 1 Item, ");
-    row("A", Default, false, "1 Group", "A, Group", "List, 1 Group, A, Group");
-    row("A--|--", Default, false, "1 Group", "4 of 4", "List, 1 Group, A, Group");
-    row("s--", Default, false, "1 Group", "3 of 3", "List, 1 Group, s, Group");
-    row("--A-", Default, false, "2 Groups", "1 of 1", "List, 2 Groups, A, Group");
-    row("A-B-", MeetingScheduler, false, "2 Groups", "1 of 1", "2 Groups, B, Group");
-    row("#--", Default, false, "3 Items", "2 of 2", "List, 3 Items, ");
-    row("A-#-", Default, false, "2 Groups", "1 of 1", "List, 2 Groups, ");
-    row("---", Default, true, "", "", "");
-    row("A--", Default, true, "", "2 of 2", "A, Group");
-    row("A--", 99, false, "1 Group", "2 of 2", "List, 1 Group, A, Group");
-    row("-", CallingTransfer, false, "", "Phone number, list", "");
-    row("-A", CallingConference, false, "", "A, list", "");
-    row("A-", Calling, false, "", "", "");
-}
-
-void tst_ListData::words()
-{
-    QFETCH(QString, rows);
-    QFETCH(int, module);
-    QFETCH(bool, clear);
-    Rows model(rows);
-    UTListData data;
-    setUp(data, QVariant::fromValue(&model));
-    data.setSourceModule(module);
-    data.setIsClearMode(clear);
-    const int last = int(rows.size()) - 1;
-    QTEST(data.listDescription(), "list");
-    QTEST(data.itemDescription(last), "description");
-    QTEST(data.itemExplanation(last, true, true), "explanation");
-
-    // The hint is spoken once, by the first row of a group of phone numbers only.
-    const QHash<int, QString> hints = {
-        {Calling,
-         u"Use Enter to make an audio call, Use Tab for more options, Use Shift+F10 to open context menu on people list-items."_s},
-        {CallingTransfer, u"Use Tab for more options"_s},
-        {CallingConference, u"Use Enter to make an audio call, Use Tab for more options"_s}};
-    data.setShowFirstTime(true);
-    const QString first = data.itemDescription(0);
-    QCOMPARE(data.showFirstTime(), !hints.contains(module));
-    QCOMPARE(first,
-             data.itemDescription(0)
-                 + (hints.contains(module) ? u", Use up & down arrow to navigate, "_s + hints[module] : QString()));
-}
-
-void tst_ListData::anyChange()
-{
-    const quint32 seed = QRandomGenerator::global()->generate();
-    QRandomGenerator random(seed);
-    const auto below = [&](qsizetype limit) { return int(random.bounded(quint32(limit))); };
-    const auto someRows = [&](int count) {
-        QString rows;
-        while (rows.size() < count)
-            rows += u"---||ABs#"_s[below(9)];
-        return rows;
-    };
-    Rows model;
-    UTListData data;
-    setUp(data, QVariant::fromValue(&model));
-    for (int step = 0; step < 600; ++step) {
-        const int count = int(model.rows.size());
-        const int first = below(qMax(count, 1));
-        const int action = count == 0 ? 0 : below(15);
-        if (action < 3)
-            model.insert(below(count + 1), someRows(1 + below(6)));
-        else if (action < 6)
-            model.remove(first, 1 + below(qMin(count - first, 9)));
-        else if (action < 10)
-            model.move(first, 1 + below(count - first), below(count + 1));
-        else if (action < 14)
-            model.change(first, someRows(1)[0]);
-        else
-            model.reset(someRows(below(40)));
-        const Naive naive(model.rows);
-        const QByteArray where = "seed " + QByteArray::number(seed) + ", step " + QByteArray::number(step);
-        QVERIFY2(data.listDescription() == naive.list(), where);
-        for (int i = -1; i <= model.rows.size(); ++i) {
-            const bool exists = i >= 0 && i < model.rows.size();
-            data.setCurrentIndex(i);
-            QVERIFY2(data.itemDescription(i) == (exists ? naive.description(i) : QString()), where);
-            QVERIFY2(data.itemSelective(i) == (exists && naive.isSelectable(i)), where);
-            QVERIFY2(data.nextSelectable(true) == naive.next(i, 1), where);
-            QVERIFY2(data.nextSelectable(false) == naive.next(i, -1), where);
+    void anyChange()
+    {
+        const quint32 seed = QRandomGenerator::global()->generate();
+        QRandomGenerator random(seed);
+        const auto below = [&](qsizetype limit) { return int(random.bounded(quint32(limit))); };
+        const auto someRows = [&](int count) {
+            QString rows;
+            while (rows.size() < count)
+                rows += u"---||ABs#"_s[below(9)];
+            return rows;
+        };
+        Rows model;
+        UTListData data;
+        setUp(data, QVariant::fromValue(&model));
+        for (int step = 0; step < 600; ++step) {
+            const int count = int(model.rows.size());
+            const int first = below(qMax(count, 1));
+            const int action = count == 0 ? 0 : below(15);
+            if (action < 3)
+                model.insert(below(count + 1), someRows(1 + below(6)));
+            else if (action < 6)
+                model.remove(first, 1 + below(qMin(count - first, 9)));
+            else if (action < 10)
+                model.move(first, 1 + below(count - first), below(count + 1));
+            else if (action < 14)
+                model.change(first, someRows(1)[0]);
+            else
+                model.reset(someRows(below(40)));
+            const Naive naive(model.rows);
+            const QByteArray where = "seed " + QByteArray::number(seed) + ", step " + QByteArray::number(step);
+            QVERIFY2(data.listDescription() == naive.list(), where);
+            for (int i = -1; i <= model.rows.size(); ++i) {
+                const bool exists = i >= 0 && i < model.rows.size();
+                data.setCurrentIndex(i);
+                QVERIFY2(data.itemDescription(i) == (exists ? naive.description(i) : QString()), where);
+                QVERIFY2(data.itemSelective(i) == (exists && naive.isSelectable(i)), where);
+                QVERIFY2(data.nextSelectable(true) == naive.next(i, 1), where);
+                QVERIFY2(data.nextSelectable(false) == naive.next(i, -1), where);
+            }
         }
     }
-}
 
-void tst_ListData::models_data()
-{
-    QTest::addColumn<QString>("members");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("description"); // of row 1
-
-    const auto row = [](const char *name, const QString &members, const char *list, const char *description) {
-        QTest::newRow(name) << members << QString::fromLatin1(list) << QString::fromLatin1(description);
-    };
-    const QString elements = u"ListElement { isSection: true; sectionName: 'A' } ListElement { isSection: false }"_s;
-    row("nothing", {}, "0 Items", "");
-    row("null", u"model: null"_s, "0 Items", "");
-    row("list model", u"model: ListModel { %1 }"_s.arg(elements), "1 Group", "1 of 1");
-    row("filled late",
-        u"property var m: ListModel {} model: m; Component.onCompleted: { m.append({ label: 'x' });"
-        " m.append({ isSection: true, sectionName: 'A' }) }"_s,
-        "2 Groups", "A, Group");
-    row("delegate model", u"model: DelegateModel { model: ListModel { %1 } }"_s.arg(elements), "1 Group", "1 of 1");
-    row("object model",
-        u"model: ObjectModel { QtObject {} QtObject { property bool isSection: true; property string sectionName: 'A' } }"_s,
-        "2 Groups", "A, Group");
-    row("array of objects", u"model: [{ isSection: true, sectionName: 'A' }, { isSection: false }, null]"_s, "1 Group",
-        "1 of 2");
-    row("array of items",
-        u"model: [o, o]; property QtObject o: QtObject { property int isSection: 1; property string sectionName: 'A' }"_s,
-        "2 Groups", "A, Group");
-    row("list of items",
-        u"model: l; property list<QtObject> l: [QtObject { property bool isSection: true }, QtObject {}]"_s, "2 Items",
-        "1 of 1");
-    row("values",
-        u"model: ['a', 'b', 'A']; itemTypeRole: 'modelData'; displayRole: 'modelData'; sectionRole: ['b']; unSelectable: 'a'"_s,
-        "2 Groups", "b, Group");
-    row("number", u"model: 3"_s, "3 Items", "2 of 3");
-    row("fraction", u"model: 2.9"_s, "2 Items", "2 of 2");
-    row("negative", u"model: -3"_s, "0 Items", "");
-    row("not a number", u"model: NaN"_s, "0 Items", "");
-    row("endless", u"model: Infinity"_s, "2147483647 Items", "2 of 2147483647");
-    row("one object", u"model: ({ isSection: true, sectionName: 'A' })"_s, "1 Group", "");
-    row("text", u"model: 'abc'"_s, "1 Item", "");
-    row("hole", u"model: { const a = []; a[1] = { isSection: true, sectionName: 'A' }; return a }"_s, "2 Groups",
-        "A, Group");
-}
-
-void tst_ListData::models()
-{
-    QFETCH(QString, members);
-    const std::unique_ptr<QObject> data = create(members);
-    QVERIFY(data);
-    QTEST(data->property("listDescription").toString(), "list");
-    QString description;
-    QVERIFY(
-        QMetaObject::invokeMethod(data.get(), "itemDescription", Q_RETURN_ARG(QString, description), Q_ARG(int, 1)));
-    QTEST(description, "description");
-}
-
-void tst_ListData::trees()
-{
-    auto gone = std::make_unique<QObject>();
-    QObject header;
-    header.setProperty("isGroupHeader", true);
-    QStandardItemModel itemModel(5, 1);
-    UTListData data;
-    data.setSourceModule(Keyboardshortcuts);
-    data.setModel(QVariantList{QVariant::fromValue(&header), QVariantMap{{u"isGroupHeader"_s, false}},
-                               QVariant::fromValue(gone.get()), 7});
-    gone.reset();
-    QStringList texts;
-    for (int row = -1; row < 5; ++row)
-        texts << data.itemDescription(row);
-    QCOMPARE(texts, QStringList({{}, u"tree item, Level 1"_s, u"tree item, Level 2"_s, {}, {}, {}}));
-    data.setModel(QVariant::fromValue(&itemModel));
-    QCOMPARE(data.itemDescription(0), QString());
-}
-
-void tst_ListData::liars()
-{
-    UTListData data;
-    auto model = std::make_unique<Rows>(u"A--B-"_s);
-    setUp(data, QVariant::fromValue(model.get()));
-    const int wild[] = {std::numeric_limits<int>::min(), -2, -1, 5, 1000, std::numeric_limits<int>::max()};
-    // Signals about rows that do not exist, and rows that come without one.
-    for (const int row : wild) {
-        model->lie();
-        QCOMPARE(data.listDescription(), u"2 Groups"_s);
-        data.setCurrentIndex(row);
-        QVERIFY(!data.itemSelective(row) && data.itemDescription(row).isEmpty());
-        QCOMPARE(data.itemExplanation(row, false, true), QString());
-        data.nextSelectable(true);
-        data.nextSelectable(false);
+    void models_data()
+    {
+        const Table<QString, QString, QString> row{"members", "list", "description"}; // of row 1
+        const QString elements =
+            u"ListElement { isSection: true; sectionName: 'A' } ListElement { isSection: false }"_s;
+        row("nothing", "", "0 Items", "");
+        row("null", "model: null", "0 Items", "");
+        row("list model", u"model: ListModel { %1 }"_s.arg(elements), "1 Group", "1 of 1");
+        row("filled late",
+            u"property var m: ListModel {} model: m; Component.onCompleted: { m.append({ label: 'x' });"
+            " m.append({ isSection: true, sectionName: 'A' }) }"_s,
+            "2 Groups", "A, Group");
+        row("delegate model", u"model: DelegateModel { model: ListModel { %1 } }"_s.arg(elements), "1 Group", "1 of 1");
+        row("object model",
+            "model: ObjectModel { QtObject {} QtObject { property bool isSection: true; property string sectionName: "
+            "'A' } }",
+            "2 Groups", "A, Group");
+        row("array of objects", "model: [{ isSection: true, sectionName: 'A' }, { isSection: false }, null]", "1 Group",
+            "1 of 2");
+        row("array of items",
+            "model: [o, o]; property QtObject o: QtObject { property int isSection: 1; property string sectionName: "
+            "'A' }",
+            "2 Groups", "A, Group");
+        row("list of items",
+            "model: l; property list<QtObject> l: [QtObject { property bool isSection: true }, QtObject {}]", "2 Items",
+            "1 of 1");
+        row("values",
+            "model: ['a', 'b', 'A']; itemTypeRole: 'modelData'; displayRole: 'modelData'; sectionRole: ['b']; "
+            "unSelectable: 'a'",
+            "2 Groups", "b, Group");
+        row("number", "model: 3", "3 Items", "2 of 3");
+        row("fraction", "model: 2.9", "2 Items", "2 of 2");
+        row("negative", "model: -3", "0 Items", "");
+        row("not a number", "model: NaN", "0 Items", "");
+        row("endless", "model: Infinity", "2147483647 Items", "2 of 2147483647");
+        row("one object", "model: ({ isSection: true, sectionName: 'A' })", "1 Group", "");
+        row("text", "model: 'abc'", "1 Item", "");
+        row("hole", "model: { const a = []; a[1] = { isSection: true, sectionName: 'A' }; return a }", "2 Groups",
+            "A, Group");
     }
-    model->rows = u"-A-"_s;
-    Q_EMIT model->dataChanged(model->index(1), model->index(1));
-    QCOMPARE(data.itemDescription(1), u"A, Group"_s);
-    model->surplus = 2;
-    Q_EMIT model->layoutChanged();
-    QCOMPARE(data.itemDescription(4), u"3 of 3"_s);
-    model->surplus = -100;
-    Q_EMIT model->layoutChanged();
-    QCOMPARE(data.listDescription(), u"0 Items"_s);
-    data.setItemTypeRole(u"no such role"_s);
-    model->surplus = 0;
-    model.reset();
-    QCOMPARE(data.listDescription(), u"0 Items"_s);
-    QVERIFY(!data.model().isValid());
-    QCOMPARE(data.nextSelectable(true), QVariantList({-1, false}));
-}
 
-void tst_ListData::signalOnlyForNews()
-{
-    Rows model(u"A--"_s);
-    UTListData data;
-    setUp(data, QVariant::fromValue(&model));
-    const QSignalSpy news(&data, &UTListData::listDescritpionChanged);
-    model.insert(1, u"--"_s);
-    data.setCurrentIndex(2);
-    data.setShowFirstTime(true);
-    QCOMPARE(news.count(), 0);
-    model.insert(1, u"B"_s);
-    QCOMPARE(news.count(), 1);
-    data.classBegin();
-    model.reset({});
-    QCOMPARE(data.listDescription(), u"2 Groups"_s);
-    data.componentComplete();
-    QCOMPARE(data.listDescription(), u"0 Items"_s);
-    QCOMPARE(news.count(), 2);
-}
+    void models()
+    {
+        QFETCH(QString, members);
+        QQmlEngine engine;
+        const auto data = create(engine,
+                                 "import QtQml\nimport QtQml.Models\nimport UIToolkitQml 1.0\n"
+                                 "import UIToolkitQml_Private_Data 1.0\nUTListData { id: data; "
+                                     + members.toUtf8() + " }");
+        QTEST(data->property("listDescription").toString(), "list");
+        QString description;
+        QVERIFY(QMetaObject::invokeMethod(data.get(), "itemDescription", Q_RETURN_ARG(QString, description),
+                                          Q_ARG(int, 1)));
+        QTEST(description, "description");
+    }
+
+    void trees()
+    {
+        auto gone = std::make_unique<QObject>();
+        QObject header;
+        header.setProperty("isGroupHeader", true);
+        QStandardItemModel itemModel(5, 1);
+        UTListData data;
+        data.setSourceModule(Keyboardshortcuts);
+        data.setModel(QVariantList{QVariant::fromValue(&header), QVariantMap{{u"isGroupHeader"_s, false}},
+                                   QVariant::fromValue(gone.get()), 7});
+        gone.reset();
+        QStringList texts;
+        for (int row = -1; row < 5; ++row)
+            texts << data.itemDescription(row);
+        QCOMPARE(texts, QStringList({{}, u"tree item, Level 1"_s, u"tree item, Level 2"_s, {}, {}, {}}));
+        data.setModel(QVariant::fromValue(&itemModel));
+        QCOMPARE(data.itemDescription(0), QString());
+    }
+
+    void liars()
+    {
+        UTListData data;
+        auto model = std::make_unique<Rows>(u"A--B-"_s);
+        setUp(data, QVariant::fromValue(model.get()));
+        const int wild[] = {std::numeric_limits<int>::min(), -2, -1, 5, 1000, std::numeric_limits<int>::max()};
+        // Signals about rows that do not exist, and rows that come without one.
+        for (const int row : wild) {
+            model->lie();
+            QCOMPARE(data.listDescription(), u"2 Groups"_s);
+            data.setCurrentIndex(row);
+            QVERIFY(!data.itemSelective(row) && data.itemDescription(row).isEmpty());
+            QCOMPARE(data.itemExplanation(row, false, true), QString());
+            data.nextSelectable(true);
+            data.nextSelectable(false);
+        }
+        model->rows = u"-A-"_s;
+        Q_EMIT model->dataChanged(model->index(1), model->index(1));
+        QCOMPARE(data.itemDescription(1), u"A, Group"_s);
+        model->surplus = 2;
+        Q_EMIT model->layoutChanged();
+        QCOMPARE(data.itemDescription(4), u"3 of 3"_s);
+        model->surplus = -100;
+        Q_EMIT model->layoutChanged();
+        QCOMPARE(data.listDescription(), u"0 Items"_s);
+        data.setItemTypeRole(u"no such role"_s);
+        model->surplus = 0;
+        model.reset();
+        QCOMPARE(data.listDescription(), u"0 Items"_s);
+        QVERIFY(!data.model().isValid());
+        QCOMPARE(data.nextSelectable(true), QVariantList({-1, false}));
+    }
+
+    void signalOnlyForNews()
+    {
+        Rows model(u"A--"_s);
+        UTListData data;
+        setUp(data, QVariant::fromValue(&model));
+        const QSignalSpy news(&data, &UTListData::listDescritpionChanged);
+        model.insert(1, u"--"_s);
+        data.setCurrentIndex(2);
+        data.setShowFirstTime(true);
+        QCOMPARE(news.count(), 0);
+        model.insert(1, u"B"_s);
+        QCOMPARE(news.count(), 1);
+        data.classBegin();
+        model.reset({});
+        QCOMPARE(data.listDescription(), u"2 Groups"_s);
+        data.componentComplete();
+        QCOMPARE(data.listDescription(), u"0 Items"_s);
+        QCOMPARE(news.count(), 2);
+    }
+};
 
 QTEST_MAIN(tst_ListData)
 #include "tst_listdata.moc"

@@ -1,6 +1,6 @@
 /*!
-    What a button needs once the pointer or the focus has been on it: the tool tip and the focus ring, each made when first
-    shown. Made by UTButtonBase.
+    What a button needs once the pointer or the focus has been on it: the activating keys, and the tool tip and the focus
+    ring, each made when first shown. Made by UTButtonBase.
 
     \qml
     ButtonAttention { control: button }
@@ -11,7 +11,7 @@ import Korvu 1.0
 import UIToolkitQml_Private 1.0
 import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
-QtObject {
+Item {
     id: attention
 
     required property UTButtonBase control
@@ -19,6 +19,10 @@ QtObject {
     readonly property bool hasKeyboardFocus: control.activeFocus && App.isKeyboardFocus
     readonly property bool isTipWanted: control.shouldTooltipBeDisplayed && (control.hovered || hasKeyboardFocus)
         && Script.tooltipText(control).length > 0
+
+    Keys.onPressed: event => Script.handleKey(control, event, true)
+    Keys.onReleased: event => Script.handleKey(control, event, false)
+    Component.onCompleted: control.Keys.forwardTo = [attention]
 
     onHasKeyboardFocusChanged: {
         const settings = control.focusRingSettings();

@@ -66,9 +66,6 @@ T.Button {
     implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset, implicitContentHeight + topPadding + bottomPadding)
 
-    Keys.onPressed: event => Script.handleKey(control, event, true)
-    Keys.onReleased: event => Script.handleKey(control, event, false)
-
     onHoveredChanged: Script.attend(control)
     onActiveFocusChanged: {
         isKeyPressed = false;

@@ -111,6 +111,18 @@ void UTEventData::setSource(QObject *source)
     Q_EMIT sourceChanged();
 }
 
+void UTEventData::setFollowsItem(bool followsItem)
+{
+    if (m_followsItem == followsItem)
+        return;
+    m_followsItem = followsItem;
+    QObject *owner = parent();
+    while (owner && !owner->isQuickItemType())
+        owner = owner->parent();
+    setSource(followsItem ? owner : nullptr);
+    Q_EMIT followsItemChanged();
+}
+
 void UTEventData::readSource()
 {
     const QMetaObject *metaObject = m_source->metaObject();

@@ -25,6 +25,8 @@ class UTEventData : public KObject
     //! The item whose properties of the same names the flags follow, in place of a binding on each; null by default.
     //! A property that it lacks leaves its flag as it is.
     Q_PROPERTY(QObject *source READ source WRITE setSource NOTIFY sourceChanged FINAL)
+    //! Whether the source is the item that the object belongs to; false by default. Cheaper than a binding on source.
+    Q_PROPERTY(bool followsItem READ followsItem WRITE setFollowsItem NOTIFY followsItemChanged FINAL)
 
 public:
     static constexpr size_t FlagCount = 5;
@@ -37,6 +39,7 @@ public:
     bool checked() const { return m_checked; }
     bool pressed() const { return m_pressed; }
     QObject *source() const { return m_source; }
+    bool followsItem() const { return m_followsItem; }
 
     void setEnabled(bool enabled);
     void setHovered(bool hovered);
@@ -44,6 +47,7 @@ public:
     void setChecked(bool checked);
     void setPressed(bool pressed);
     void setSource(QObject *source);
+    void setFollowsItem(bool followsItem);
 
 Q_SIGNALS:
     void enabledChanged();
@@ -52,6 +56,7 @@ Q_SIGNALS:
     void checkedChanged();
     void pressedChanged();
     void sourceChanged();
+    void followsItemChanged();
     void eventDataChanged();
 
 private Q_SLOTS:
@@ -62,6 +67,7 @@ private:
 
     QPointer<QObject> m_source;
     std::array<int, FlagCount> m_sourceProperties = {}; // indexes, -1 where there is none
+    bool m_followsItem = false;
     bool m_enabled = false;
     bool m_hovered = false;
     bool m_activeFocus = false;

@@ -29,19 +29,17 @@ UTButtonBase {
     }
 
     UTIconButtonData.themeType: themeType
-    UTIconButtonData.type: buttonType
-    UTIconButtonData.eventData: UTEventData { source: control }
+    UTIconButtonData.eventData: UTEventData { followsItem: true }
+
+    // In place of a binding, which costs more.
+    onButtonTypeChanged: UTIconButtonData.type = buttonType
 
     checkable: true
     implicitWidth: UTIconButtonData.buttonSize.width
     implicitHeight: UTIconButtonData.buttonSize.height
 
-    background: Rectangle {
-        radius: control.UTIconButtonData.radius
-        color: control.UTIconButtonData.backgroundColorData.color
-        border.color: control.UTIconButtonData.borderColorData.color
-        border.width: control.UTIconButtonData.border
-    }
+    // Painted by the data object.
+    background: Rectangle { objectName: "ground" }
     contentItem: Image {
         // Without a colour, as at first, there is nothing to load.
         source: {

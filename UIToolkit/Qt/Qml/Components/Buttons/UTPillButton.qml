@@ -53,24 +53,19 @@ UTButtonBase {
     }
 
     UTPillButtonData.themeType: themeType
-    UTPillButtonData.style: buttonStyle
-    UTPillButtonData.size: buttonSize
-    UTPillButtonData.eventData: UTEventData { source: control }
+    UTPillButtonData.eventData: UTEventData { followsItem: true }
+    UTPillButtonData.size: UTButtonSize.XL
+    UTPillButtonData.style: UTButtonStyle.Primary
 
     isTextEilded: false
     implicitHeight: Math.max(UTPillButtonData.height, implicitContentHeight)
     horizontalPadding: UTPillButtonData.leftPadding // the same on the right in every size
 
-    background: Rectangle {
-        radius: control.UTPillButtonData.radius
-        color: control.UTPillButtonData.backgroundColorData.color
-        border.color: control.UTPillButtonData.borderColorData.color
-        border.width: control.UTPillButtonData.border
-    }
+    // Painted by the data object.
+    background: Rectangle { objectName: "ground" }
     contentItem: Text {
+        objectName: "label"
         text: control.text
-        font: control.UTPillButtonData.font
-        color: control.UTPillButtonData.textColorData.color
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         onTruncatedChanged: control.isTextEilded = truncated
@@ -80,6 +75,10 @@ UTButtonBase {
                 Script.arrangePill(control, this);
         }
     }
+
+    // Handlers in place of bindings: most buttons keep the first values.
+    onButtonStyleChanged: UTPillButtonData.style = buttonStyle
+    onButtonSizeChanged: UTPillButtonData.size = buttonSize
 
     // Most buttons have neither an alignment nor icons nor colours for them, and shall not pay for them.
     onAlignmentChanged: Script.rearrangePill(control)

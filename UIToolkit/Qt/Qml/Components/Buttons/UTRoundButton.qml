@@ -49,19 +49,15 @@ UTButtonBase {
     }
 
     UTRoundButtonData.themeType: themeType
-    UTRoundButtonData.style: buttonStyle
-    UTRoundButtonData.size: buttonSize
-    UTRoundButtonData.eventData: UTEventData { source: control }
+    UTRoundButtonData.eventData: UTEventData { followsItem: true }
+    UTRoundButtonData.size: UTButtonSize.XL
+    UTRoundButtonData.style: UTButtonStyle.Primary
 
     implicitWidth: UTRoundButtonData.width
     implicitHeight: UTRoundButtonData.height
 
-    background: Rectangle {
-        radius: control.UTRoundButtonData.radius
-        color: control.UTRoundButtonData.backgroundColorData.color
-        border.color: control.UTRoundButtonData.borderColorData.color
-        border.width: control.UTRoundButtonData.border
-    }
+    // Painted by the data object.
+    background: Rectangle { objectName: "ground" }
     contentItem: Image {
         // No colour yet, no name or no size: nothing to load.
         source: {
@@ -74,6 +70,9 @@ UTButtonBase {
         mipmap: true // as everywhere, for the texture is shared
     }
 
+    // Handlers in place of bindings: most buttons keep the first values.
+    onButtonStyleChanged: UTRoundButtonData.style = buttonStyle
+    onButtonSizeChanged: UTRoundButtonData.size = buttonSize
     onMirrorEnabledChanged: (contentItem as Image).mirror = Qt.binding(() => control.mirrorEnabled && control.mirrored)
     onIconColorSetNameChanged: UTRoundButtonData.iconColorSetName = iconColorSetName
     onIconColorCustomizedChanged: {

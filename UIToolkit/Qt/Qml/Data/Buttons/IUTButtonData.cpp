@@ -88,6 +88,7 @@ IUTButtonData::IUTButtonData(QObject *attachee, const char *component)
         return;
     connect(this, &IUTButtonData::buttonDataChanged, this, &IUTButtonData::refresh);
     connect(App::instance(), &App::textScaleChanged, this, &IUTButtonData::updateSize);
+    paintPartsOf(attachee);
 }
 
 void IUTButtonData::setThemeType(const QString &type)

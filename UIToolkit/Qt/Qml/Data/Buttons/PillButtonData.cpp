@@ -31,6 +31,19 @@ constexpr std::array<Metrics, 7> sizeTable = {{
 
 } // namespace
 
+PillButtonData::PillButtonData(QObject *attachee, const char *component)
+    : IUTButtonData(attachee, component)
+{
+    connect(this, &PillButtonData::fontChanged, this, &PillButtonData::paintLabel);
+}
+
+void PillButtonData::paintLabel()
+{
+    IUTButtonData::paintLabel();
+    if (label())
+        label()->setProperty("font", font());
+}
+
 void PillButtonData::updateSize()
 {
     const size_t row = size_t(size()) - UTButtonSize::XL;

@@ -34,8 +34,9 @@ Q_SIGNALS:
     void spacingChanged();
 
 protected:
-    using IUTButtonData::IUTButtonData;
+    PillButtonData(QObject *attachee, const char *component);
 
+    void paintLabel() override;
     void updateSize() override;
 
 private:

@@ -84,8 +84,10 @@ UTIconButtonData::UTIconButtonData(QObject *attachee)
     setRadius(buttonSize().height() / 2);
     connect(this, &ColorGroup::eventDataChanged, this, [this] { m_iconData->setEventData(eventData()); });
     connect(this, &UTIconButtonData::typeChanged, this, &UTIconButtonData::buttonDataChanged);
-    if (ComponentName::check(attachee, "UTIconButton"))
-        connect(this, &UTIconButtonData::buttonDataChanged, this, &UTIconButtonData::refresh);
+    if (!ComponentName::check(attachee, "UTIconButton"))
+        return;
+    connect(this, &UTIconButtonData::buttonDataChanged, this, &UTIconButtonData::refresh);
+    paintPartsOf(attachee);
 }
 
 void UTIconButtonData::refresh()

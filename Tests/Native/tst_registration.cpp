@@ -12,7 +12,48 @@
 
 #include <private/qqmlmetatype_p.h>
 
+#include <dlfcn.h>
+
 using namespace Qt::StringLiterals;
+
+// What the plugin's initialisers call, told apart by who calls: the loader finds these functions before those of Qt.
+static QStringList initialisers;
+static bool isPluginLoading = false;
+
+static void note(const QString &step, const void *caller)
+{
+    Dl_info info;
+    if (isPluginLoading && dladdr(caller, &info) && QByteArrayView(info.dli_fname).endsWith("libuitoolkitqml.so")
+        && (initialisers.isEmpty() || initialisers.constLast() != step))
+        initialisers.append(step);
+}
+
+template<typename Function>
+static Function *next(Function *, const char *name)
+{
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
+extern "C" Q_DECL_EXPORT void _ZN22QQmlModuleRegistrationC1EPKcPFvvE(void *self, const char *uri, void (*types)())
+{
+    note(u"module"_s, __builtin_return_address(0));
+    next(_ZN22QQmlModuleRegistrationC1EPKcPFvvE, __func__)(self, uri, types);
+}
+
+extern "C" Q_DECL_EXPORT bool _Z21qRegisterResourceDataiPKhS0_S0_(int version, const uchar *tree, const uchar *name,
+                                                                  const uchar *data)
+{
+    note(u"resources"_s, __builtin_return_address(0));
+    return next(_Z21qRegisterResourceDataiPKhS0_S0_, __func__)(version, tree, name, data);
+}
+
+// Each hash begins with it: the table of compiled units, and that of the call-control buttons.
+QHashSeed QHashSeed::globalSeed() noexcept
+{
+    note(u"table"_s, __builtin_return_address(0));
+    static const auto original = next(&QHashSeed::globalSeed, "_ZN9QHashSeed10globalSeedEv");
+    return original();
+}
 
 /*!
     What the plugin tells loaders and engines about itself: identity, bundle, compiled units, and the
@@ -51,6 +92,11 @@ private:
 
 void tst_Registration::initTestCase()
 {
+    isPluginLoading = true;
+    QVERIFY(QPluginLoader(pluginFile()).load());
+    isPluginLoading = false;
+    QCOMPARE(initialisers, QStringList({u"module"_s, u"table"_s, u"resources"_s, u"table"_s}));
+
     QQmlComponent component(&m_engine);
     component.setData("import UIToolkitQml 1.0\nimport QtQml\nQtObject {}", QUrl());
     std::unique_ptr<QObject> object(component.create());

@@ -11,7 +11,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -35,85 +34,41 @@ enum class Layout {
 
 enum class Look { Plain, Bold, Italic, Underlined, KeptBlanks, Hidden, Link };
 
+// Kinds of elements, and the names of those of a kind. What is not here is inline, and looks like what is around it.
 struct ElementType
 {
-    QLatin1StringView name;
-    Layout layout;
+    QLatin1StringView names;
+    Layout layout = Layout::Inline;
     Look look = Look::Plain;
     int headingLevel = 0;
 };
 
-// Sorted by name. What is not here is inline, and looks like what is around it.
 constexpr ElementType elementTypes[] = {
     {"a"_L1, Layout::Inline, Look::Link},
     {"address"_L1, Layout::Block, Look::Italic},
-    {"area"_L1, Layout::Nothing},
-    {"article"_L1, Layout::Block},
-    {"aside"_L1, Layout::Block},
-    {"b"_L1, Layout::Inline, Look::Bold},
-    {"base"_L1, Layout::Nothing},
-    {"blockquote"_L1, Layout::Block},
-    {"body"_L1, Layout::Block},
+    {"area base col embed input link meta param source track wbr"_L1, Layout::Nothing},
+    {"article aside blockquote body center details div dl fieldset figcaption figure footer form head "
+     "header html main nav section summary table tbody tfoot thead"_L1,
+     Layout::Block},
+    {"b strong"_L1, Layout::Inline, Look::Bold},
     {"br"_L1, Layout::Break},
-    {"caption"_L1, Layout::Cell},
-    {"center"_L1, Layout::Block},
-    {"cite"_L1, Layout::Inline, Look::Italic},
-    {"col"_L1, Layout::Nothing},
-    {"dd"_L1, Layout::Term},
-    {"details"_L1, Layout::Block},
-    {"dfn"_L1, Layout::Inline, Look::Italic},
-    {"dir"_L1, Layout::List},
-    {"div"_L1, Layout::Block},
-    {"dl"_L1, Layout::Block},
-    {"dt"_L1, Layout::Term},
-    {"em"_L1, Layout::Inline, Look::Italic},
-    {"embed"_L1, Layout::Nothing},
-    {"fieldset"_L1, Layout::Block},
-    {"figcaption"_L1, Layout::Block},
-    {"figure"_L1, Layout::Block},
-    {"footer"_L1, Layout::Block},
-    {"form"_L1, Layout::Block},
+    {"caption td"_L1, Layout::Cell},
+    {"cite dfn em i var"_L1, Layout::Inline, Look::Italic},
+    {"dd dt"_L1, Layout::Term},
+    {"dir menu ol ul"_L1, Layout::List},
     {"h1"_L1, Layout::Heading, Look::Plain, 1},
     {"h2"_L1, Layout::Heading, Look::Plain, 2},
     {"h3"_L1, Layout::Heading, Look::Plain, 3},
-    {"h4"_L1, Layout::Block, Look::Bold},
-    {"h5"_L1, Layout::Block, Look::Bold},
-    {"h6"_L1, Layout::Block, Look::Bold},
-    {"head"_L1, Layout::Block},
-    {"header"_L1, Layout::Block},
+    {"h4 h5 h6"_L1, Layout::Block, Look::Bold},
     {"hr"_L1, Layout::Rule},
-    {"html"_L1, Layout::Block},
-    {"i"_L1, Layout::Inline, Look::Italic},
     {"img"_L1, Layout::Picture},
-    {"input"_L1, Layout::Nothing},
-    {"ins"_L1, Layout::Inline, Look::Underlined},
+    {"ins u"_L1, Layout::Inline, Look::Underlined},
     {"li"_L1, Layout::Item},
-    {"link"_L1, Layout::Nothing},
-    {"main"_L1, Layout::Block},
-    {"menu"_L1, Layout::List},
-    {"meta"_L1, Layout::Nothing},
-    {"nav"_L1, Layout::Block},
-    {"ol"_L1, Layout::List},
     {"p"_L1, Layout::Paragraph},
-    {"param"_L1, Layout::Nothing},
     {"pre"_L1, Layout::Block, Look::KeptBlanks},
-    {"section"_L1, Layout::Block},
-    {"source"_L1, Layout::Nothing},
-    {"strong"_L1, Layout::Inline, Look::Bold},
-    {"summary"_L1, Layout::Block},
-    {"table"_L1, Layout::Block},
-    {"tbody"_L1, Layout::Block},
-    {"td"_L1, Layout::Cell},
-    {"tfoot"_L1, Layout::Block},
     {"th"_L1, Layout::Cell, Look::Bold},
-    {"thead"_L1, Layout::Block},
     {"title"_L1, Layout::Block, Look::Hidden},
     {"tr"_L1, Layout::Row},
-    {"track"_L1, Layout::Nothing},
-    {"u"_L1, Layout::Inline, Look::Underlined},
-    {"ul"_L1, Layout::List},
-    {"var"_L1, Layout::Inline, Look::Italic},
-    {"wbr"_L1, Layout::Nothing},
 };
 
 constexpr bool isBlock(Layout layout)
@@ -141,11 +96,16 @@ constexpr bool isEndedBy(Layout open, Layout next)
 
 const ElementType &elementType(const QString &name)
 {
-    static constexpr ElementType unknown = {{}, Layout::Inline};
-    const auto found =
-        std::lower_bound(std::begin(elementTypes), std::end(elementTypes), name,
-                         [](const ElementType &row, const QString &wanted) { return row.name < wanted; });
-    return found != std::end(elementTypes) && found->name == name ? *found : unknown;
+    static constexpr ElementType unknown = {};
+    static const auto types = [] {
+        QHash<QString, const ElementType *> byName;
+        for (const ElementType &type : elementTypes) {
+            for (const QLatin1StringView single : type.names.tokenize(u' '))
+                byName.insert(single, &type);
+        }
+        return byName;
+    }();
+    return *types.value(name, &unknown);
 }
 
 HtmlStyle styleOf(Look look)

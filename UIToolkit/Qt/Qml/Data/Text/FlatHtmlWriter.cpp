@@ -1,5 +1,7 @@
 #include "FlatHtmlWriter.h"
 
+#include "HtmlText.h"
+
 #include <QStringBuilder>
 
 using namespace Qt::StringLiterals;
@@ -31,14 +33,7 @@ void FlatHtmlWriter::character(QChar c, const Format &format, const QString &lin
         setFormat(format, linkTarget);
     if (m_guardsRuns && m_guard.needsBreakBefore(c))
         m_html += QChar(TextRunGuard::breakOpportunity);
-    if (c == u'&')
-        m_html += "&amp;"_L1;
-    else if (c == u'<')
-        m_html += "&lt;"_L1;
-    else if (c == u'>')
-        m_html += "&gt;"_L1;
-    else
-        m_html += c;
+    HtmlText::append(m_html, c);
 }
 
 void FlatHtmlWriter::lineBreak(const Format &format, const QString &linkTarget)

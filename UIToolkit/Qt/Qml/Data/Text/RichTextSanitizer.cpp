@@ -1,8 +1,8 @@
 #include "RichTextSanitizer.h"
 
 #include "RichTextFormat.h"
+#include "RichTextHtml.h"
 
-#include <QStringBuilder>
 #include <QTextFragment>
 #include <QTextFrame>
 #include <QTextList>
@@ -52,8 +52,11 @@ private:
         m_cursor.block().setUserState(RichText::isHeadingLevel(level) ? level : -1);
         if (source.textList())
             m_cursor.createList(RichText::bulletStyle);
-        for (auto it = source.begin(); !it.atEnd(); ++it)
-            m_cursor.insertText(it.fragment().text(), supportedFormat(it.fragment().charFormat()));
+        for (auto it = source.begin(); !it.atEnd(); ++it) {
+            QString text = it.fragment().text();
+            text.remove(QChar::ObjectReplacementCharacter); // in place of a picture
+            m_cursor.insertText(text, supportedFormat(it.fragment().charFormat()));
+        }
     }
 
     QTextCharFormat supportedFormat(const QTextCharFormat &source) const
@@ -85,20 +88,12 @@ private:
     QString m_mentionLink;
 };
 
-QString toInsertableHtml(const QTextDocument &document)
+void clearBlock(QTextCursor &cursor)
 {
-    // The elements "html" and "body" would give every paragraph a fixed direction, and every letter a fixed font that
-    // follows no change of the text's own.
-    static const QString head =
-        u"<meta name=\"qrichtext\" content=\"1\" /><style type=\"text/css\">p, li { white-space: pre-wrap; }</style>"_s;
-    const QString html = document.toHtml();
-    const qsizetype bodyTag = html.indexOf("<body"_L1);
-    const qsizetype start = html.indexOf(u'>', bodyTag) + 1;
-    const qsizetype end = html.lastIndexOf("</body>"_L1);
-    QString result = head % QStringView(html).sliced(start, end - start);
-    for (QLatin1StringView tag : {"<p"_L1, "<li"_L1})
-        result.replace(QString(tag % " dir='rtl'"_L1), tag);
-    return result;
+    if (QTextList *list = cursor.currentList())
+        list->remove(cursor.block());
+    cursor.setBlockFormat(QTextBlockFormat());
+    cursor.setBlockCharFormat(QTextCharFormat());
 }
 
 } // namespace
@@ -116,8 +111,16 @@ std::unique_ptr<QTextDocument> RichTextSanitizer::sanitized(const QTextDocument 
 void RichTextSanitizer::insert(const QTextDocument &document, QTextCursor &cursor)
 {
     // An empty paragraph in HTML would be one more than there was.
-    if (!document.isEmpty())
-        cursor.insertHtml(toInsertableHtml(document));
+    if (document.isEmpty())
+        return;
+    if (!RichTextHtml::isPlainLine(document)) {
+        cursor.insertHtml(RichTextHtml::toInsertable(document));
+        return;
+    }
+    // What the text engine does with the HTML of such a line, and much quicker.
+    if (cursor.position() == 0)
+        clearBlock(cursor);
+    cursor.insertText(document.toRawText(), QTextCharFormat());
 }
 
 void RichTextSanitizer::removeSelection(QTextCursor &cursor)
@@ -126,9 +129,7 @@ void RichTextSanitizer::removeSelection(QTextCursor &cursor)
     if (!cursor.document()->isEmpty())
         return;
     // Of all that was there a paragraph is left, which would make the last of the new ones look like itself.
-    if (QTextList *list = cursor.currentList())
-        list->remove(cursor.block());
-    cursor.setBlockFormat(QTextBlockFormat());
+    clearBlock(cursor);
 }
 
 void RichTextSanitizer::insertOutsideList(const QString &text, QTextCursor &cursor)

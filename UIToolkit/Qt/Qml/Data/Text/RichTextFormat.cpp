@@ -3,6 +3,19 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+namespace {
+
+QTextCharFormat headingCharFormat(int level, qreal basePointSize)
+{
+    const RichText::HeadingMetrics &metrics = RichText::headings.at(size_t(level));
+    QTextCharFormat format;
+    format.setFontPointSize(basePointSize * metrics.scale);
+    format.setFontWeight(metrics.weight);
+    return format;
+}
+
+} // namespace
+
 bool RichText::isBold(const QTextCharFormat &format)
 {
     return format.hasProperty(QTextFormat::FontWeight) && format.fontWeight() > heaviestNormalWeight;
@@ -23,15 +36,6 @@ bool RichText::inRange(const QTextBlock &block, int to)
     return block.isValid() && block.position() <= qMin(to, length(block.document()));
 }
 
-QTextCharFormat RichText::headingCharFormat(int level, qreal basePointSize)
-{
-    const HeadingMetrics &metrics = headings.at(size_t(level));
-    QTextCharFormat format;
-    format.setFontPointSize(basePointSize * metrics.scale);
-    format.setFontWeight(metrics.weight);
-    return format;
-}
-
 void RichText::applyHeading(const QTextBlock &block, int level, qreal basePointSize)
 {
     const HeadingMetrics &metrics = headings.at(size_t(level));
@@ -44,7 +48,12 @@ void RichText::applyHeading(const QTextBlock &block, int level, qreal basePointS
     QTextCursor cursor(block);
     cursor.mergeBlockFormat(blockFormat);
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    cursor.mergeCharFormat(headingCharFormat(level, basePointSize));
+    // An empty block keeps the format for what is typed into it.
+    const QTextCharFormat charFormat = headingCharFormat(level, basePointSize);
+    if (cursor.hasSelection())
+        cursor.mergeCharFormat(charFormat);
+    else
+        cursor.mergeBlockCharFormat(charFormat);
 }
 
 void RichText::restoreHeadings(const QTextDocument *document, int from, int to, qreal basePointSize)

@@ -55,9 +55,6 @@ QTextBlock firstBlock(const QTextDocument *document, int from);
 //! True while \a block belongs to a range that ends at \a to.
 bool inRange(const QTextBlock &block, int to);
 
-//! Size and weight of the text of headings of \a level. \a basePointSize: size of ordinary text.
-QTextCharFormat headingCharFormat(int level, qreal basePointSize);
-
 //! Makes \a block a heading of \a level, or ordinary text for level 0.
 void applyHeading(const QTextBlock &block, int level, qreal basePointSize);
 

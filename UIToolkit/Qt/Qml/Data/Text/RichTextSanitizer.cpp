@@ -132,9 +132,8 @@ void RichTextSanitizer::removeSelection(QTextCursor &cursor)
     clearBlock(cursor);
 }
 
-void RichTextSanitizer::insertOutsideList(const QString &text, QTextCursor &cursor)
+void RichTextSanitizer::insertOutsideList(const QString &text, QTextCursor &cursor, const QTextCharFormat &charFormat)
 {
-    const QTextCharFormat charFormat = cursor.charFormat();
     QTextBlockFormat blockFormat = cursor.blockFormat();
     blockFormat.setObjectIndex(-1);
     cursor.beginEditBlock();

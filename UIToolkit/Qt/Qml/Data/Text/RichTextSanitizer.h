@@ -22,6 +22,6 @@ void insert(const QTextDocument &document, QTextCursor &cursor);
 void removeSelection(QTextCursor &cursor);
 
 //! Inserts plain text so that its paragraphs do not join the list that \a cursor is in.
-void insertOutsideList(const QString &text, QTextCursor &cursor);
+void insertOutsideList(const QString &text, QTextCursor &cursor, const QTextCharFormat &charFormat);
 
 } // namespace RichTextSanitizer

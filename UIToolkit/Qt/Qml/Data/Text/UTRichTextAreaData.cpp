@@ -85,109 +85,100 @@ UTRichTextAreaData *UTRichTextAreaData::qmlAttachedProperties(QObject *attachee)
 
 // Properties -------------------------------------------------------------------------------------------
 
-template<typename T>
-void UTRichTextAreaData::store(T &member, const T &value, void (UTRichTextAreaData::*changed)())
-{
-    if (member == value)
-        return;
-    member = value;
-    Q_EMIT(this->*changed)();
-}
-
 void UTRichTextAreaData::setTextArea(QObject *textArea)
 {
-    store(m_textArea, QPointer<QObject>(textArea), &UTRichTextAreaData::textAreaChanged);
+    set(m_textArea, QPointer<QObject>(textArea), &UTRichTextAreaData::textAreaChanged);
 }
 
 void UTRichTextAreaData::setTextDocument(QQuickTextDocument *textDocument)
 {
-    store(m_textDocument, QPointer<QQuickTextDocument>(textDocument), &UTRichTextAreaData::textDocumentChanged);
+    set(m_textDocument, QPointer<QQuickTextDocument>(textDocument), &UTRichTextAreaData::textDocumentChanged);
 }
 
 void UTRichTextAreaData::setCursorPosition(int cursorPosition)
 {
-    store(m_cursorPosition, cursorPosition, &UTRichTextAreaData::cursorPositionChanged);
+    set(m_cursorPosition, cursorPosition, &UTRichTextAreaData::cursorPositionChanged);
 }
 
 void UTRichTextAreaData::setSelectionStart(int selectionStart)
 {
-    store(m_selectionStart, selectionStart, &UTRichTextAreaData::selectionStartChanged);
+    set(m_selectionStart, selectionStart, &UTRichTextAreaData::selectionStartChanged);
 }
 
 void UTRichTextAreaData::setSelectionEnd(int selectionEnd)
 {
-    store(m_selectionEnd, selectionEnd, &UTRichTextAreaData::selectionEndChanged);
+    set(m_selectionEnd, selectionEnd, &UTRichTextAreaData::selectionEndChanged);
 }
 
 void UTRichTextAreaData::setBold(bool bold)
 {
-    store(m_bold, bold, &UTRichTextAreaData::boldChanged);
+    set(m_bold, bold, &UTRichTextAreaData::boldChanged);
 }
 
 void UTRichTextAreaData::setItalic(bool italic)
 {
-    store(m_italic, italic, &UTRichTextAreaData::italicChanged);
+    set(m_italic, italic, &UTRichTextAreaData::italicChanged);
 }
 
 void UTRichTextAreaData::setUnderline(bool underline)
 {
-    store(m_underline, underline, &UTRichTextAreaData::underlineChanged);
+    set(m_underline, underline, &UTRichTextAreaData::underlineChanged);
 }
 
 void UTRichTextAreaData::setHeading1(bool heading1)
 {
-    store(m_heading1, heading1, &UTRichTextAreaData::heading1Changed);
+    set(m_heading1, heading1, &UTRichTextAreaData::heading1Changed);
 }
 
 void UTRichTextAreaData::setHeading2(bool heading2)
 {
-    store(m_heading2, heading2, &UTRichTextAreaData::heading2Changed);
+    set(m_heading2, heading2, &UTRichTextAreaData::heading2Changed);
 }
 
 void UTRichTextAreaData::setHeading3(bool heading3)
 {
-    store(m_heading3, heading3, &UTRichTextAreaData::heading3Changed);
+    set(m_heading3, heading3, &UTRichTextAreaData::heading3Changed);
 }
 
 void UTRichTextAreaData::setMaxLength(int maxLength)
 {
-    store(m_maxLength, maxLength, &UTRichTextAreaData::maxLengthChanged);
+    set(m_maxLength, maxLength, &UTRichTextAreaData::maxLengthChanged);
 }
 
 void UTRichTextAreaData::setAutomaticBullets(bool automaticBullets)
 {
-    store(m_automaticBullets, automaticBullets, &UTRichTextAreaData::automaticBulletsChanged);
+    set(m_automaticBullets, automaticBullets, &UTRichTextAreaData::automaticBulletsChanged);
 }
 
 void UTRichTextAreaData::setBulletListDirty(bool bulletListDirty)
 {
-    store(m_bulletListDirty, bulletListDirty, &UTRichTextAreaData::bulletListDirtyChanged);
+    set(m_bulletListDirty, bulletListDirty, &UTRichTextAreaData::bulletListDirtyChanged);
 }
 
 void UTRichTextAreaData::setModified(bool modified)
 {
-    store(m_modified, modified, &UTRichTextAreaData::modifiedChanged);
+    set(m_modified, modified, &UTRichTextAreaData::modifiedChanged);
 }
 
 void UTRichTextAreaData::setShouldApplyNewFormatting(bool shouldApplyNewFormatting)
 {
-    store(m_shouldApplyNewFormatting, shouldApplyNewFormatting, &UTRichTextAreaData::shouldApplyNewFormattingChanged);
+    set(m_shouldApplyNewFormatting, shouldApplyNewFormatting, &UTRichTextAreaData::shouldApplyNewFormattingChanged);
 }
 
 void UTRichTextAreaData::setShouldRemoveLinkFormatting(bool shouldRemoveLinkFormatting)
 {
-    store(m_shouldRemoveLinkFormatting, shouldRemoveLinkFormatting,
-          &UTRichTextAreaData::shouldRemoveLinkFormattingChanged);
+    set(m_shouldRemoveLinkFormatting, shouldRemoveLinkFormatting,
+        &UTRichTextAreaData::shouldRemoveLinkFormattingChanged);
 }
 
 void UTRichTextAreaData::setReadOnly(bool readOnly)
 {
-    store(m_readOnly, readOnly, &UTRichTextAreaData::readOnlyChanged);
+    set(m_readOnly, readOnly, &UTRichTextAreaData::readOnlyChanged);
 }
 
 void UTRichTextAreaData::setLinkColor(const QVariant &linkColor)
 {
-    store(m_linkColor, linkColor, &UTRichTextAreaData::linkColorChanged);
+    set(m_linkColor, linkColor, &UTRichTextAreaData::linkColorChanged);
 }
 
 void UTRichTextAreaData::setCharFormat(const QTextCharFormat &charFormat)
@@ -450,6 +441,7 @@ void UTRichTextAreaData::onUnderlineChanged()
     mergeFormat(format);
     // Another property than the one just merged, on purpose.
     notePendingProperty(QTextFormat::FontUnderline, format.fontUnderline());
+    m_charFormat.clearProperty(QTextFormat::TextUnderlineStyle); // the caret's would go before it
 }
 
 void UTRichTextAreaData::onHeading1Changed()
@@ -483,11 +475,10 @@ void UTRichTextAreaData::setHeadingLevel(int level)
     for (QTextBlock block = RichText::firstBlock(m_document, from); RichText::inRange(block, to); block = block.next())
         RichText::applyHeading(block, level, pointSize);
     cursor.endEditBlock();
-    // An empty block has no text that could keep the format for what is typed into it.
+    // A text area that is still empty would type in the format that it began with.
     if (cursor.block().length() == 1) {
         setShouldApplyNewFormatting(true);
         m_charFormat = cursor.charFormat();
-        m_charFormat.merge(RichText::headingCharFormat(level, pointSize));
     }
 }
 
@@ -627,7 +618,7 @@ bool UTRichTextAreaData::handleKey(const QKeyEvent &event)
     case RichTextInput::None:
         return false;
     case RichTextInput::Type:
-        return insertTypedText(input.text);
+        return insertTypedText(input.text, makeCursor());
     case RichTextInput::Paste:
         pasteText();
         break;
@@ -650,11 +641,20 @@ bool UTRichTextAreaData::handleKey(const QKeyEvent &event)
 bool UTRichTextAreaData::handleInputMethod(const QInputMethodEvent &event)
 {
     m_isComposing = event.commitString().isEmpty();
-    if (m_readOnly || m_isComposing || !insertTypedText(event.commitString()))
+    if (m_readOnly || m_isComposing)
+        return false;
+    QTextCursor cursor = makeCursor();
+    if (event.replacementLength() > 0 && !cursor.isNull()) {
+        const int start = qBound(0, cursor.position() + event.replacementStart(), documentLength());
+        cursor.setPosition(start);
+        cursor.setPosition(qMin(start + event.replacementLength(), documentLength()), QTextCursor::KeepAnchor);
+    }
+    if (!insertTypedText(event.commitString(), cursor))
         return false;
     // The text area has not seen the end of the composition, and would go on showing it.
     QInputMethodEvent rest(event.preeditString(), event.attributes());
     QCoreApplication::sendEvent(m_textArea, &rest);
+    m_isComposing = false;
     return true;
 }
 
@@ -676,24 +676,23 @@ bool UTRichTextAreaData::exceedsLimit(qsizetype addedLength) const
     return m_maxLength > 0 && documentLength() + addedLength - (m_selectionEnd - m_selectionStart) > m_maxLength;
 }
 
-bool UTRichTextAreaData::insertTypedText(const QString &text)
+bool UTRichTextAreaData::insertTypedText(const QString &text, QTextCursor cursor)
 {
     if (exceedsLimit(text.size()))
         return true;
-    return insertWithPendingFormat(makeCursor(), text);
+    const std::optional<QTextCharFormat> format = formatToInsert(cursor);
+    if (format)
+        cursor.insertText(text, *format);
+    return format.has_value();
 }
 
-bool UTRichTextAreaData::insertWithPendingFormat(QTextCursor cursor, const QString &text)
+std::optional<QTextCharFormat> UTRichTextAreaData::formatToInsert(const QTextCursor &cursor) const
 {
-    if (cursor.isNull())
-        return false;
-    // The insertion disarms the format.
-    const QTextCharFormat format =
-        m_shouldRemoveLinkFormatting ? RichText::withoutLink(cursor.charFormat()) : m_charFormat;
-    if (!m_shouldRemoveLinkFormatting && !m_shouldApplyNewFormatting)
-        return false;
-    cursor.insertText(text, format);
-    return true;
+    if (!cursor.isNull() && m_shouldRemoveLinkFormatting)
+        return RichText::withoutLink(cursor.charFormat());
+    if (!cursor.isNull() && m_shouldApplyNewFormatting)
+        return m_charFormat;
+    return std::nullopt;
 }
 
 // Whole documents --------------------------------------------------------------------------------------
@@ -785,10 +784,15 @@ void UTRichTextAreaData::insertDocument(const QTextDocument &scratch, bool asHtm
         return;
     // Unlike the plain text of a document, this keeps no-break spaces.
     const QString text = scratch.toRawText();
+    QTextCharFormat format = formatToInsert(cursor).value_or(QTextCharFormat());
+    if (format.isEmpty()) {
+        format = cursor.charFormat();
+        format.clearProperty(QTextFormat::ObjectType); // of a picture
+    }
     if (scratch.blockCount() > longestList && cursor.currentList())
-        RichTextSanitizer::insertOutsideList(text, cursor);
-    else if (!insertWithPendingFormat(cursor, text))
-        cursor.insertText(text);
+        RichTextSanitizer::insertOutsideList(text, cursor, format);
+    else
+        cursor.insertText(text, format);
 }
 
 void UTRichTextAreaData::insertHtml(const QTextDocument &scratch)

@@ -11,6 +11,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <optional>
 
 class QInputMethodEvent;
 class QKeyEvent;
@@ -194,9 +195,6 @@ private Q_SLOTS:
     void onDocumentModifiedChanged();
 
 private:
-    template<typename T>
-    void store(T &member, const T &value, void (UTRichTextAreaData::*changed)());
-
     QTextDocument *document() const;
     int documentLength() const;
     QTextCursor makeCursor() const;
@@ -219,8 +217,8 @@ private:
     bool handleKey(const QKeyEvent &event);
     bool handleInputMethod(const QInputMethodEvent &event);
     bool handleMouse(const QMouseEvent &event);
-    bool insertTypedText(const QString &text);
-    bool insertWithPendingFormat(QTextCursor cursor, const QString &text);
+    bool insertTypedText(const QString &text, QTextCursor cursor);
+    std::optional<QTextCharFormat> formatToInsert(const QTextCursor &cursor) const;
     bool exceedsLimit(qsizetype addedLength) const;
 
     std::unique_ptr<QTextDocument> scratchDocument() const;

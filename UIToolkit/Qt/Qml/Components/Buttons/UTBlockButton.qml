@@ -53,7 +53,7 @@ UTButtonBase {
         textFormat: Text.StyledText
         font: control.UTBlockButtonData.font
         color: control.UTBlockButtonData.secondaryTextColor
-        horizontalAlignment: control.mirrored ? Text.AlignRight : Text.AlignLeft
+        horizontalAlignment: Text.AlignLeft // on the right where the layout is mirrored
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
         maximumLineCount: priv.maximumLineCount

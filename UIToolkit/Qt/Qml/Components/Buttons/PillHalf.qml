@@ -84,6 +84,7 @@ UTButtonBase {
             width: () => half.secondIconSize.width,
             height: () => half.secondIconSize.height,
             visible: () => half.secondIconName.length > 0,
+            asynchronous: false,
             sourceSize: () => half.secondIconSize,
             svgName: () => half.secondIconName,
             svgColor: () => half.contentColor
@@ -105,6 +106,7 @@ UTButtonBase {
         y: Math.round((half.height - height) / 2)
         width: half.iconSize.width
         height: half.iconSize.height
+        asynchronous: false // there at once, also in another colour
         sourceSize: half.iconSize
         svgName: half.controlsTarget.checked && half.checkedIconName.length > 0 ? half.checkedIconName : half.iconName
         svgColor: half.contentColor

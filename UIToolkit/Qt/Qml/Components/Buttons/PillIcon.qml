@@ -45,6 +45,7 @@ UTSvgResource {
     width: sourceSize.width
     height: width
     visible: svgName.length > 0
+    asynchronous: false // there at once, also in another colour
     svgName: isRight ? control.rightIcon : control.leftIcon
     svgColor: isRight ? control.UTPillButtonData.rightIconColorData.color : control.UTPillButtonData.iconColorData.color
     imagePrefixType: control.iconPrefixType

@@ -98,6 +98,7 @@ UTButtonBase {
         svgColor: () => control.UTChipData.textColorData.color,
         sourceSize: () => control.UTChipData.iconSize,
         visible: () => priv.hasLeftIcon,
+        asynchronous: false,
         x: () => control.mirrored ? control.availableWidth - control.UTChipData.iconSize.width : 0,
         y: () => Math.round((control.availableHeight - control.UTChipData.iconSize.height) / 2)
     }, contentItem)

@@ -39,6 +39,7 @@ UTButtonBase {
         controlsTarget: control
         svgName: kind.icon
         svgColorSetName: kind.colorSet
+        asynchronous: false // there at once, also in another colour
         sourceSize: Qt.size(16, 16)
         fillMode: Image.Pad
     }

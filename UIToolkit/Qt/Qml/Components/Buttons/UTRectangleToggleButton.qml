@@ -38,6 +38,7 @@ UTButtonBase {
         svgName: control.buttonIcon
         svgColor: ThemeUtils.getColor(control, (ThemeManager.globalTheme,
             App.getColorSet(control.checked ? "button-ghost-active-text" : "button-ghost-text", control.themeType)))
+        asynchronous: false // there at once, also in another colour
         sourceSize: Qt.size(16, 16)
         fillMode: Image.Pad
     }

@@ -53,6 +53,7 @@ UTButtonBase {
     contentItem: KSvgIcon {
         svgName: control.iconName
         svgColor: (ThemeManager.globalTheme, control.stateColor(control.checked ? "button-ghost-active-text" : "button-ghost-text"))
+        asynchronous: false // there at once, also in another colour
         sourceSize: Qt.size(16, 16)
         fillMode: Image.Pad
     }

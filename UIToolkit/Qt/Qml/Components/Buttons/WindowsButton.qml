@@ -40,6 +40,7 @@ UTButtonBase {
     contentItem: KSvgIcon {
         svgName: priv.look.icon
         svgColor: ThemeUtils.getColor(control, (ThemeManager.globalTheme, App.getColorSet(priv.look.colors + "-text", control.themeType)))
+        asynchronous: false // there at once, also in another colour
         sourceSize: Qt.size(16, 16)
         fillMode: Image.Pad
     }

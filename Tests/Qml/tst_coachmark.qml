@@ -1,6 +1,4 @@
 import QtQuick
-import QtTest
-import Korvu 1.0
 import UIToolkitQml 1.0
 
 ToolkitTestCase {
@@ -14,8 +12,6 @@ ToolkitTestCase {
         previewImageSource: "qrc:/Resources/sample-landscape.png"
     })
 
-    SignalSpy { id: accepted; signalName: "accepted" }
-    SignalSpy { id: linkClicked; signalName: "hyperLinkClicked" }
     Component { id: bar; Rectangle { objectName: "bar"; height: 30 } }
     Component { id: window; Window { width: 400; height: 500 } }
 
@@ -23,10 +19,6 @@ ToolkitTestCase {
     function open(properties: var): var {
         const host = createTemporaryObject(window, testCase);
         const mark = make("UTCoachMark", Object.assign({}, full, properties), host.contentItem);
-        for (const spy of [accepted, linkClicked]) {
-            spy.target = mark;
-            spy.clear();
-        }
         host.show();
         host.requestActivate();
         tryVerify(() => host.active && !mark.isFirstFocused);
@@ -93,6 +85,8 @@ ToolkitTestCase {
     function test_closes(row) {
         const mark = open();
         const host = mark.Window.window;
+        const accepted = spyOn(mark, "accepted");
+        const linkClicked = spyOn(mark, "hyperLinkClicked");
         mouseClick(find(mark, "text", "More"));
         compare(linkClicked.signalArguments[0][0], "https://example.org");
         verify(host.visible);

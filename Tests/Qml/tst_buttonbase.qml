@@ -83,6 +83,15 @@ ToolkitTestCase {
         }
     }
 
+    function test_keysOfTheApplication() {
+        const button = createTemporaryQmlObject("import QtQuick; import UIToolkitQml 1.0; UTPillButton { property string log;"
+            + "onClicked: log += 'c'; Keys.onReturnPressed: log += 'r'; Keys.onPressed: log += 'p' }", stage);
+        button.forceActiveFocus();
+        keyClick(Qt.Key_Return);
+        keyClick(Qt.Key_Enter);
+        compare(button.log, "rpc");
+    }
+
     function test_pillContent_data() {
         // Where the parts begin, with icons of 20 and a spacing of 6 in 168 pixels between the paddings.
         return table(["tag", "properties", "left", "right", "mirrored"], [

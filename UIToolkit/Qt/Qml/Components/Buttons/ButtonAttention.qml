@@ -11,7 +11,7 @@ import Korvu 1.0
 import UIToolkitQml_Private 1.0
 import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
-Item {
+QtObject {
     id: attention
 
     required property UTButtonBase control
@@ -19,10 +19,6 @@ Item {
     readonly property bool hasKeyboardFocus: control.activeFocus && App.isKeyboardFocus
     readonly property bool isTipWanted: control.shouldTooltipBeDisplayed && (control.hovered || hasKeyboardFocus)
         && Script.tooltipText(control).length > 0
-
-    Keys.onPressed: event => Script.handleKey(control, event, true)
-    Keys.onReleased: event => Script.handleKey(control, event, false)
-    Component.onCompleted: control.Keys.forwardTo = [attention]
 
     onHasKeyboardFocusChanged: {
         const settings = control.focusRingSettings();
@@ -37,5 +33,10 @@ Item {
                 active: () => attention.isTipWanted
             }, control);
         }
+    }
+    // After the handlers of the application, which may take a key for themselves.
+    Component.onCompleted: {
+        control.Keys.pressed.connect(event => Script.handleKey(control, event, true));
+        control.Keys.released.connect(event => Script.handleKey(control, event, false));
     }
 }

@@ -3,7 +3,6 @@
 #include "UTPopOverData.h"
 
 #include <QSignalSpy>
-#include <qpa/qwindowsysteminterface.h>
 
 // A target in the middle of the window and a pop-over with a text field in it.
 static const char scene[] = R"(
@@ -33,6 +32,20 @@ Window {
     }
 })";
 
+// Open before its window shows.
+static const char openScene[] = R"(
+Window {
+    x: 300; y: 200; width: 400; height: 300
+    Rectangle {
+        objectName: "target"
+        x: 150; y: 100; width: 80; height: 30; color: "silver"
+        UTPopOver {
+            objectName: "popOver"; active: true; showWithActive: false; automaticClose: false
+            content: Rectangle { objectName: "content"; width: 119.5; height: 60 }
+        }
+    }
+})";
+
 class tst_PopOver : public WindowTest
 {
     Q_OBJECT
@@ -44,6 +57,7 @@ private Q_SLOTS:
     void closes_data();
     void closes();
     void followsItsTarget();
+    void openFromTheStart();
     void losesItsTarget();
     void delayedHide();
     void focusElsewhere();
@@ -129,7 +143,7 @@ void tst_PopOver::closes()
     if (how == QLatin1StringView("escape"))
         QVERIFY(user(QStringLiteral("key Escape")));
     else if (how == QLatin1StringView("window manager"))
-        QWindowSystemInterface::handleCloseEvent(popOver);
+        QVERIFY(user(QStringLiteral("key alt+F4")));
     else if (how == QLatin1StringView("function"))
         hide(false, 0, false);
     else
@@ -153,9 +167,32 @@ void tst_PopOver::followsItsTarget()
     EVENTUALLY(popOverWindow()->position() == before + QPoint(25, 0));
     // At the right edge of the screen it is moved back, and its arrow the other way.
     window()->setX(1280 - 240);
-    EVENTUALLY(window()->x() > 900);
-    QMetaObject::invokeMethod(m_popOver, "updatePosition");
     EVENTUALLY(popOverWindow()->x() + popOverWindow()->width() <= 1280);
+}
+
+void tst_PopOver::openFromTheStart()
+{
+    SHOW(openScene);
+    m_popOver = object("popOver");
+    QQuickItem *const target = item("target");
+    const auto below = [&](int width) {
+        const QPoint corner = target->mapToGlobal(QPointF(target->width(), target->height())).toPoint();
+        return corner + QPoint(1 - int(target->width() / 2 + 2) - width / 2, 3);
+    };
+    EVENTUALLY(popOverWindow() && popOverWindow()->isExposed());
+    EVENTUALLY(popOverWindow()->size() == QSize(120, 70) && popOverWindow()->position() == below(120));
+    // It goes where its target's window goes, and away with it.
+    window()->setPosition(400, 350);
+    EVENTUALLY(window()->x() > 390 && popOverWindow()->position() == below(120));
+    target->setWidth(100);
+    EVENTUALLY(popOverWindow()->position() == below(120));
+    window()->hide();
+    EVENTUALLY(otherWindows().isEmpty());
+    window()->show();
+    EVENTUALLY(!otherWindows().isEmpty() && popOverWindow()->position() == below(120));
+    // Larger than the screen it stays where it wants to be.
+    popOverWindow()->findChild<QQuickItem *>(QStringLiteral("content"))->setWidth(3000);
+    EVENTUALLY(popOverWindow()->width() == 3000 && popOverWindow()->x() == below(3000).x());
 }
 
 void tst_PopOver::losesItsTarget()

@@ -109,15 +109,20 @@ Item {
             windowComponentInstance.visible = false;
     }
 
-    //! Follows the target, which may have moved.
+    //! Follows the target, which may have moved in its window. Where that window goes, and how large the target is, the
+    //! balloon follows by itself.
     function updatePosition(): void {
-        if (windowComponentInstance)
-            windowComponentInstance.UTPopOverData.targetItemRect = priv.targetRect();
+        const pointing = windowComponentInstance;
+        if (!pointing)
+            return;
+        pointing["sizings"] = 0;
+        pointing.UTPopOverData.targetItemRect = priv.targetRect();
     }
 
     visible: false
 
     onActiveChanged: priv.update()
+    onPopOverMarginChanged: updatePosition()
     onTargetItemChanged: {
         if (targetItem)
             updatePosition();
@@ -148,18 +153,24 @@ Item {
         readonly property bool isLinux: Qt.platform.os === "linux"
         // A negative interval, or one that overflows into that, stops the clock of all timers.
         readonly property int longestDelay: 0x7fffffff
+        // As often as the arrow may turn, and once more.
+        readonly property int mostSizings: 5
         property bool isComplete: false
 
         readonly property Component windowComponent: Component {
             Window {
                 id: popOverWindow
 
+                //! The target's.
+                readonly property Window scene: control.targetItem?.Window.window ?? null
                 property bool hasBeenActive: !control.showWithActive
+                //! Since content or target last changed.
+                property int sizings: 0
 
                 objectName: "popOverWindow"
                 title: control.accessibleName || qsTr("group")
                 screen: Qt.application.screens[control.activeScreenIndex] ?? null // qmllint disable missing-property
-                transientParent: control.windowParent ?? control.targetItem?.Window.window ?? null
+                transientParent: control.windowParent ?? scene
                 flags: {
                     if (control.showWithActive) {
                         return priv.isLinux ? Qt.FramelessWindowHint | Qt.Tool
@@ -171,8 +182,8 @@ Item {
                 color: "transparent"
                 x: UTPopOverData.popOverPosition.x
                 y: UTPopOverData.popOverPosition.y
-                width: Math.max(1, balloon.width)
-                height: Math.max(1, balloon.height)
+                width: Math.ceil(balloon.width)
+                height: Math.ceil(balloon.height)
 
                 UTPopOverData.arrowAlignment: control.arrowAlignment
                 UTPopOverData.arrowAnchor: control.arrowAnchor
@@ -180,10 +191,14 @@ Item {
                 UTPopOverData.arrowVisible: control.arrowVisible
                 UTPopOverData.size: control.popOverSize
 
+                // A side that the arrow turns to takes its room, which may make it turn again. With no room anywhere that
+                // would have no end.
                 function takeSize(): void {
-                    UTPopOverData.popOverSize = Qt.size(Math.max(1, balloon.width), Math.max(1, balloon.height));
+                    if (++sizings <= priv.mostSizings)
+                        UTPopOverData.popOverSize = Qt.size(Math.ceil(balloon.width), Math.ceil(balloon.height));
                 }
 
+                onSceneChanged: control.updatePosition()
                 onActiveChanged: {
                     hasBeenActive = true;
                     control.popoverWindowActiveChanged(active);
@@ -191,29 +206,45 @@ Item {
                 onClosing: control.active = false
 
                 Connections {
+                    target: popOverWindow.scene
+
+                    function onXChanged(): void { control.updatePosition(); }
+                    function onYChanged(): void { control.updatePosition(); }
+                    function onVisibleChanged(): void {
+                        // The property would not be heeded, for this window belongs to a hidden one.
+                        if (!popOverWindow.scene.visible)
+                            popOverWindow.hide();
+                        else if (control.visible)
+                            popOverWindow.show();
+                    }
+                }
+                Connections {
+                    target: control.targetItem
+
+                    function onWidthChanged(): void { control.updatePosition(); }
+                    function onHeightChanged(): void { control.updatePosition(); }
+                }
+                Connections {
                     target: App
                     enabled: control.automaticClose
 
                     function onFocusWindowChanged(focusWindow: Window): void {
-                        // On its way to this window the focus may pass through others.
-                        if (!popOverWindow.hasBeenActive)
-                            return;
-                        if (!focusWindow) {
-                            focusLoss.start();
-                            return;
-                        }
-                        focusLoss.stop();
-                        const isElsewhere = focusWindow !== popOverWindow && !UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow);
-                        if (isElsewhere || control.hasFocusItem && !popOverWindow.activeFocusItem)
+                        const isHere = focusWindow && (focusWindow === popOverWindow || UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow));
+                        if (isHere && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
+                            focusLoss.stop();
+                        else if (focusWindow && popOverWindow.hasBeenActive)
                             control.active = false;
+                        else
+                            focusLoss.restart();
                     }
                 }
 
-                // Between two windows the focus may be nowhere for a moment.
+                // Between two windows the focus may be nowhere for a moment, and on its way to this one it may pass through
+                // others.
                 Timer {
                     id: focusLoss
 
-                    interval: 100
+                    interval: popOverWindow.hasBeenActive ? 100 : 1000
                     onTriggered: control.active = false
                 }
 
@@ -257,6 +288,10 @@ Item {
                             Qt.callLater(popOverWindow.takeSize);
                         }
 
+                        // Another window does not inherit it.
+                        LayoutMirroring.enabled: control.LayoutMirroring.enabled
+                        LayoutMirroring.childrenInherit: true
+
                         x: balloon.arrowAnchor === UTPopOverEnum.Left ? balloon.arrowSize : 0
                         y: balloon.arrowAnchor === UTPopOverEnum.Top ? balloon.arrowSize : 0
                         width: item?.width ?? 0
@@ -264,6 +299,8 @@ Item {
                         focus: true
 
                         onComponentChanged: load()
+                        onWidthChanged: popOverWindow.sizings = 0
+                        onHeightChanged: popOverWindow.sizings = 0
                     }
                 }
             }
@@ -305,6 +342,8 @@ Item {
             if (control.windowComponentInstance !== created)
                 return;
             control.activeScreenIndex = UIToolKitUtils.getScreenIndexFromPoint(Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2));
+            // At its place from the first moment, which the user would see.
+            created["takeSize"]();
             created.visible = true;
             if (control.showWithActive && isLinux) {
                 created.raise();

@@ -85,7 +85,7 @@ ToolkitTestCase {
 
     function test_keysOfTheApplication() {
         const button = createTemporaryQmlObject("import QtQuick; import UIToolkitQml 1.0; UTPillButton { property string log;"
-            + "onClicked: log += 'c'; Keys.onReturnPressed: log += 'r'; Keys.onPressed: log += 'p' }", stage);
+            + "onClicked: log += 'c'; Keys.onReturnPressed: log += 'r'; Keys.onPressed: log += 'p' }", parent);
         button.forceActiveFocus();
         keyClick(Qt.Key_Return);
         keyClick(Qt.Key_Enter);

@@ -41,7 +41,7 @@ GalleryPage {
                 ToolButton { text: qsTr("Heading 3"); active: area.UTRichTextAreaData.heading3; onClicked: area.toggle("heading3") }
                 ToolButton { text: qsTr("Link"); leftIcon: "link-bold"; onClicked: area.UTRichTextAreaData.addLink(linkText.value, linkTarget.value) }
                 ToolButton { text: qsTr("Mention"); onClicked: area.UTRichTextAreaData.addLink("@" + linkText.value, UIToolKitUtils.mentionLink) }
-                ToolButton { text: qsTr("Paste"); onClicked: area.UTRichTextAreaData.pasteText() }
+                ToolButton { text: qsTr("Paste"); onClicked: area.paste() }
                 ToolButton { text: qsTr("Plain model"); onClicked: area.UTRichTextAreaData.removeUnsupportedFormats() }
                 ToolButton { text: qsTr("Undo"); leftIcon: "reset-bold"; enabled: area.canUndo; onClicked: area.undo() }
                 ToolButton { text: qsTr("Redo"); leftIcon: "refresh-bold"; enabled: area.canRedo; onClicked: area.redo() }
@@ -69,6 +69,9 @@ GalleryPage {
                         data["on" + name[0].toUpperCase() + name.slice(1) + "Changed"]();
                         page.log(name + ": " + data[name]);
                     }
+
+                    //! In place of the text area's own, which would paste what it does not know.
+                    function paste(): void { area.UTRichTextAreaData.pasteText(); }
 
                     anchors.fill: parent
                     leftPadding: Metrics.medium

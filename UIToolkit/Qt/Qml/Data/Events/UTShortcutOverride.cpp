@@ -21,8 +21,8 @@ bool isOnePrintableCharacter(const QString &text)
 bool takeCharacter(QEvent *event)
 {
     constexpr Qt::KeyboardModifiers altGr = Qt::ControlModifier | Qt::AltModifier;
-    const auto *key = static_cast<QKeyEvent *>(event);
-    if ((key->modifiers() & altGr) != altGr || !isOnePrintableCharacter(key->text()))
+    const auto *key = dynamic_cast<QKeyEvent *>(event);
+    if (!key || (key->modifiers() & altGr) != altGr || !isOnePrintableCharacter(key->text()))
         return false;
     event->accept();
     return true;

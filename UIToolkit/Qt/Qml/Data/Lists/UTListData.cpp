@@ -407,7 +407,7 @@ QString UTListData::describe(int itemIndex, const Section &section)
     }
     if (wording.isTree) {
         const QVariant isGroupHeader = m_rows.objectProperty(itemIndex, u"isGroupHeader"_s);
-        if (!isGroupHeader.isValid())
+        if (isGroupHeader.isNull())
             return {};
         return isGroupHeader.toBool() ? tr("tree item, Level 1") : tr("tree item, Level 2");
     }

@@ -26,9 +26,13 @@ class QMouseEvent;
  * a flag and then call its slot: the flag alone changes nothing. Operations silently do nothing while the text area or
  * its document is missing or a position lies behind the end of the document.
  *
+ * The text area's own paste() would put in what the clipboard holds, whatever it is; a function of its name keeps menus
+ * and callers from it, as below. Its insert() and \c text are for text that the application trusts.
+ *
  * \qml
  * TextArea {
  *     id: area
+ *     function paste(): void { UTRichTextAreaData.pasteText() }
  *     textFormat: TextEdit.RichText
  *     UTRichTextAreaData.textArea: area
  *     UTRichTextAreaData.textDocument: area.textDocument

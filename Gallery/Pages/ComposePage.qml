@@ -32,13 +32,30 @@ GalleryPage {
             Flow {
                 width: parent.width
                 spacing: Metrics.small
+                enabled: !area.readOnly
 
-                ToolButton { text: qsTr("Bold"); active: area.UTRichTextAreaData.bold; onClicked: area.toggle("bold") }
-                ToolButton { text: qsTr("Italic"); active: area.UTRichTextAreaData.italic; onClicked: area.toggle("italic") }
-                ToolButton { text: qsTr("Underline"); active: area.UTRichTextAreaData.underline; onClicked: area.toggle("underline") }
-                ToolButton { text: qsTr("Heading 1"); active: area.UTRichTextAreaData.heading1; onClicked: area.toggle("heading1") }
-                ToolButton { text: qsTr("Heading 2"); active: area.UTRichTextAreaData.heading2; onClicked: area.toggle("heading2") }
-                ToolButton { text: qsTr("Heading 3"); active: area.UTRichTextAreaData.heading3; onClicked: area.toggle("heading3") }
+                Repeater {
+                    model: [
+                        { text: qsTr("Bold"), format: "bold" },
+                        { text: qsTr("Italic"), format: "italic" },
+                        { text: qsTr("Underline"), format: "underline" },
+                        { text: qsTr("Heading 1"), format: "heading1" },
+                        { text: qsTr("Heading 2"), format: "heading2" },
+                        { text: qsTr("Heading 3"), format: "heading3" }
+                    ]
+
+                    ToolButton {
+                        required property var modelData
+                        readonly property bool active: area.UTRichTextAreaData[modelData.format]
+
+                        text: modelData.text
+                        buttonStyle: active ? UTButtonStyle.Primary : UTButtonStyle.Secondary
+                        onClicked: area.toggle(modelData.format)
+
+                        Accessible.checkable: true
+                        Accessible.checked: active
+                    }
+                }
                 ToolButton { text: qsTr("Link"); leftIcon: "link-bold"; onClicked: area.UTRichTextAreaData.addLink(linkText.value, linkTarget.value) }
                 ToolButton { text: qsTr("Mention"); onClicked: area.UTRichTextAreaData.addLink("@" + linkText.value, UIToolKitUtils.mentionLink) }
                 ToolButton { text: qsTr("Paste"); onClicked: area.paste() }
@@ -178,10 +195,8 @@ GalleryPage {
     }
 
     component ToolButton: UTPillButton {
-        property bool active: false
-
         focusPolicy: Qt.TabFocus
-        buttonStyle: active ? UTButtonStyle.Primary : UTButtonStyle.Secondary
+        buttonStyle: UTButtonStyle.Secondary
         buttonSize: UTButtonSize.L
     }
 }

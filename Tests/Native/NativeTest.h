@@ -6,8 +6,6 @@
 #include <QRegularExpression>
 #include <QTest>
 
-#include <private/qmetaobjectbuilder_p.h>
-
 #include <memory>
 
 //! The base of every native test: a warning that a test does not announce fails it.
@@ -88,25 +86,4 @@ public:
     {
         (QTest::newRow(qPrintable(QString(name))) << ... << static_cast<const Values &>(cells));
     }
-};
-
-//! An object whose class has the name of a component: data objects look at no more than that.
-class StandIn : public QObject
-{
-public:
-    explicit StandIn(const char *component)
-    {
-        QMetaObjectBuilder builder;
-        builder.setClassName(component);
-        builder.setSuperClass(&QObject::staticMetaObject);
-        m_metaObject.reset(builder.toMetaObject());
-    }
-    const QMetaObject *metaObject() const override { return m_metaObject.get(); }
-
-private:
-    struct Free
-    {
-        void operator()(QMetaObject *object) const { std::free(object); }
-    };
-    std::unique_ptr<QMetaObject, Free> m_metaObject;
 };

@@ -62,7 +62,8 @@ private:
     QTextCharFormat supportedFormat(const QTextCharFormat &source) const
     {
         QTextCharFormat format;
-        if (source.isAnchor() && source.anchorHref() == m_mentionLink) {
+        const QString target = source.isAnchor() ? source.anchorHref() : QString(); // without one it is a mere bookmark
+        if (target == m_mentionLink) {
             format.setFontWeight(RichText::boldWeight);
             format.setForeground(m_linkColor);
             format.setProperty(QTextFormat::UserProperty, QString(RichText::mentionMarker));
@@ -70,11 +71,11 @@ private:
         }
         format.setFontWeight(RichText::isBold(source) ? RichText::boldWeight : RichText::normalWeight);
         format.setFontItalic(source.fontItalic());
-        const bool isUnderlined = source.fontUnderline() || source.isAnchor();
+        const bool isUnderlined = source.fontUnderline() || !target.isEmpty();
         format.setUnderlineStyle(isUnderlined ? QTextCharFormat::SingleUnderline : QTextCharFormat::NoUnderline);
-        if (source.isAnchor()) {
+        if (!target.isEmpty()) {
             format.setAnchor(true);
-            format.setAnchorHref(source.anchorHref());
+            format.setAnchorHref(target);
         }
         if (source.property(QTextFormat::UserProperty).toString() == RichText::mentionMarker) {
             format.setProperty(QTextFormat::UserProperty, QString(RichText::mentionMarker));

@@ -6,7 +6,8 @@ import Gallery
 GalleryPage {
     id: page
 
-    readonly property string film: "image://dynamic/?imageProviderUrl=" + MediaPolicy.encode("qrc:/Resources/coverImageSpinner@2x.gif") + "&isDark=false&fallbackImage="
+    readonly property string film: "image://dynamic/?imageProviderUrl=" + MediaPolicy.encode("qrc:/Resources/coverImageSpinner@2x.gif", "qrc:/Resources/coverImageSpinnerDark@2x.gif")
+        + "&isDark=" + ThemeManager.isDarkTheme + "&fallbackImage="
 
     category: qsTr("Images")
     description: qsTr("A film that the host fetches, with a spinner until it is there.")

@@ -69,12 +69,15 @@ GalleryPage {
                 margins: Metrics.large
             }
             spacing: 2
+            width: parent.width - 2 * Metrics.large
 
             GalleryText {
+                width: parent.width
                 text: qsTr("A screen of %1 × %2 pixels").arg(map.screenRect.width).arg(map.screenRect.height)
                 textColorSetName: "text-secondary"
             }
             GalleryText {
+                width: parent.width
                 text: qsTr("popOverPosition %1, %2; arrowAnchor %3; arrowOffset %4").arg(ghost.UTPopOverData.popOverPosition.x)
                     .arg(ghost.UTPopOverData.popOverPosition.y).arg(ghost.side).arg(ghost.UTPopOverData.arrowOffset)
                 textColorSetName: "text-secondary"
@@ -112,6 +115,9 @@ GalleryPage {
             height: 24
             radius: 4
             backgroundColorSetName: "button-accent-fill-background"
+            // Black on black otherwise.
+            border.width: ThemeManager.isHighContrastTheme ? 1 : 0
+            border.color: (ThemeManager.globalTheme, App.getColorSet("button-accent-fill-text").normal)
             activeFocusOnTab: true
             Accessible.role: Accessible.Button
             Accessible.name: qsTr("Target, moved by the arrow keys")
@@ -170,6 +176,8 @@ GalleryPage {
             width: looseWindow.width
             height: looseWindow.height
             backgroundColorSetName: target.backgroundColorSetName
+            border.width: target.border.width
+            border.color: target.border.color
 
             GalleryText {
                 anchors.centerIn: parent

@@ -7,7 +7,7 @@ GalleryPage {
     id: page
 
     readonly property string picture: "qrc:/Resources/sample-landscape.png"
-    readonly property string film: "qrc:/Resources/coverImageSpinner@2x.gif"
+    readonly property string film: MediaPolicy.encode("qrc:/Resources/coverImageSpinner@2x.gif", "qrc:/Resources/coverImageSpinnerDark@2x.gif")
     // A picture that is not there.
     readonly property string nowhere: MediaPolicy.encode("data:image/png;base64,")
 
@@ -23,7 +23,7 @@ GalleryPage {
         UTDynamicResource {
             width: 240
             height: 160
-            imageSource: [page.picture, MediaPolicy.encode(page.picture), MediaPolicy.encode(page.film), page.nowhere, ""][kind.currentIndex]
+            imageSource: [page.picture, MediaPolicy.encode(page.picture), page.film, page.nowhere, ""][kind.currentIndex]
             fallbackImage: "qrc:/Resources/empty-inbox.svg"
             showSpinner: spinner.value
             mirrorEnabled: mirrored.value
@@ -53,7 +53,7 @@ GalleryPage {
         Cell {
             label: qsTr("film")
 
-            UTDynamicResource { width: 54; height: 54; imageSource: MediaPolicy.encode(page.film) }
+            UTDynamicResource { width: 54; height: 54; imageSource: page.film }
         }
         Cell {
             label: qsTr("none")

@@ -70,8 +70,7 @@ GalleryPage {
             UTSpinner { width: 64; height: 64; spinnerType: UTSpinner.Progress; currentValue: 60 }
         }
         Cell {
-            label: qsTr("no check mark")
-            note: "completeCheckMarkEnabled: false"
+            label: qsTr("%1 %, no check mark").arg(100)
 
             UTSpinner { spinnerType: UTSpinner.Progress; currentValue: 100; completeCheckMarkEnabled: false }
         }

@@ -65,7 +65,7 @@ GalleryPage {
 
                 required property string modelData
 
-                label: modelData
+                label: "arrowAnchor: %1".arg(modelData)
 
                 UTPillButton {
                     id: target

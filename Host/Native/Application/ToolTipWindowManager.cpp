@@ -1,6 +1,6 @@
 #include "ToolTipWindowManager.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QQmlEngine>
 
 #include "ApplicationObject.h"
@@ -24,7 +24,7 @@ ToolTipWindowManager::ToolTipWindowManager(QObject *parent)
 
 QQuickWindow *ToolTipWindowManager::getWindow(QQuickItem *item, bool shared)
 {
-    if (!item || !item->window())
+    if (!item || !item->window() || !QGuiApplication::primaryScreen())
         return nullptr;
     QObject *owner = shared ? static_cast<QObject *>(item->window()) : item;
     QPointer<QQuickWindow> &window = m_windows[owner];

@@ -25,7 +25,7 @@ public:
     //! time. Without it the item has the window to itself. The same window is returned each time. It belongs to the host:
     //! it hides when the item's window does, and is gone with that window or, unshared, with the item.
     //!
-    //! Null for an item that is in no window.
+    //! Null for an item that is in no window, and without any screen.
     Q_INVOKABLE QQuickWindow *getWindow(QQuickItem *item, bool shared = false);
 
 private:

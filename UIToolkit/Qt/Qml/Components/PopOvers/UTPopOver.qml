@@ -315,6 +315,11 @@ Item {
             return Qt.rect(origin.x - margin, origin.y - margin, target.width + 2 * margin, target.height + 2 * margin);
         }
 
+        //! Without any, to make a window would end the application.
+        function hasScreen(): bool {
+            return Qt.application.screens.length > 0; // qmllint disable missing-property
+        }
+
         function isMouseInside(): bool {
             const content = control.windowComponentInstance.contentItem;
             const origin = content.mapToGlobal(0, 0);
@@ -333,6 +338,8 @@ Item {
         }
 
         function createWindow(): void {
+            if (!hasScreen())
+                return;
             const created = windowComponent.createObject(null) as Window;
             control.windowComponentInstance = created;
             const rect = targetRect();

@@ -17,15 +17,15 @@ KFrame {
     property int maximumLineCount: 3
 
     width: Math.max(text.lineWidth + 2 * priv.horizontalMargin, priv.minimumSize)
-    height: Math.max(text.height + 2 * priv.verticalMargin, priv.minimumSize)
+    height: Math.max(Math.ceil(text.height) + 2 * priv.verticalMargin, priv.minimumSize)
     backgroundColorSetName: "panel-tertiary-background"
     borderColorSetName: "modal-primary-border"
 
     KText {
         id: text
 
-        // Of the longest line; a text of several lines takes more for itself.
-        readonly property real lineWidth: Math.min(width, contentWidth)
+        // Of the longest line; a text of several lines takes more for itself. Whole pixels, as the window has.
+        readonly property int lineWidth: Math.ceil(Math.min(width, contentWidth))
 
         x: priv.horizontalMargin - (effectiveHorizontalAlignment === Text.AlignRight ? width - lineWidth : 0)
         y: priv.verticalMargin

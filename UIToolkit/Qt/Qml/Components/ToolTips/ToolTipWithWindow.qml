@@ -57,7 +57,9 @@ Item {
         interval: priv.delayToStartTime
         running: control.active
         onTriggered: {
-            if (control.active && ToolTipManager.canShow(control) && !control.tooltipItem)
+            // Without any screen, to make a window would end the application.
+            const hasScreen = Qt.application.screens.length > 0; // qmllint disable missing-property
+            if (control.active && ToolTipManager.canShow(control) && !control.tooltipItem && hasScreen)
                 control.tooltipItem = windowComponent.createObject(null) as Window;
         }
     }

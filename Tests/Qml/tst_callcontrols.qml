@@ -101,6 +101,15 @@ ToolkitTestCase {
         }
     }
 
+    function test_noRightHalfOfNoWidth() {
+        const large = UTCallControlButtonEnum.KorvuAssistantLarge;
+        verify(!make("UTCallControlButton", { buttonType: large }).rightButton);
+        const button = make("UTCallControlButton", split);
+        button.buttonType = large;
+        verify(!button.rightButton.visible, "nothing for the Tab key");
+        compare(button.width, 64);
+    }
+
     function test_wrapperFollowsTheCall() {
         const button = make("UTCallControlButtonWrapper", { action: UTCallControlButtonWrapper.Action.Mute, hasMenu: true });
         const signals = ["triggered", "menuRequested"];

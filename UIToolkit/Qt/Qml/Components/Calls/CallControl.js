@@ -32,11 +32,17 @@ function arrange(control, left, metrics, corner) {
         control.labelRoom = Qt.binding(() => metrics.showText ? metrics.textLeftMargin + label.naturalWidth : 0);
         arrangeLeft(control, left, metrics);
     }
-    if (metrics.rightButtonVisible && !control.rightButton) {
+    if (hasRightHalf(metrics) && !control.rightButton) {
         control.rightButton = makeRightHalf(control, left, metrics, corner);
         arrangeLeft(control, left, metrics);
     }
     showTooltip(left);
+}
+
+// The large assistant leaves the right half of the type before it, and most types vanish in ExtremeSmall: without a width
+// there is nothing for the Tab key to stop at.
+function hasRightHalf(metrics) {
+    return metrics.rightButtonVisible && metrics.rightIconSize.width > 0;
 }
 
 // From here on the icon does not lie in the middle of the pill any more.
@@ -52,12 +58,13 @@ function arrangeLeft(control, left, metrics) {
 // The right half of \a control, beside \a left.
 function makeRightHalf(control, left, metrics, corner) {
     const wash = isChecked => isChecked ? metrics.checkedBackgroundColorSetName : metrics.backgroundColorSetName;
+    const isShown = () => hasRightHalf(metrics);
     const isOneThing = () => control.leftChecked && !metrics.separatorVisible;
     const right = ButtonBase.needPart(left, "rightHalf", "PillHalf", {
         x: () => left.mirrored ? 0 : control.width - control.rightRoom,
         width: () => control.rightRoom,
         height: () => control.height,
-        visible: () => metrics.rightButtonVisible,
+        visible: isShown,
         activeFocusOnTab: () => left.activeFocusOnTab,
         squareCorners: corner.TopLeft | corner.BottomLeft,
         themeType: () => control.themeType,
@@ -82,16 +89,16 @@ function makeRightHalf(control, left, metrics, corner) {
     control.rightCheckedChanged.connect(() => right.checked = control.rightChecked);
 
     // Of two halves, each shows by itself that it is hovered or pressed.
-    control.ground = Qt.binding(() => metrics.rightButtonVisible
+    control.ground = Qt.binding(() => isShown()
         ? { enabled: left.enabled || control.rightEnabled, checked: isOneThing() } : undefined);
-    control.rightRoom = Qt.binding(() => metrics.rightButtonVisible ? right.naturalWidth : 0);
-    left.squareCorners = Qt.binding(() => metrics.rightButtonVisible ? corner.TopRight | corner.BottomRight : corner.None);
+    control.rightRoom = Qt.binding(() => isShown() ? right.naturalWidth : 0);
+    left.squareCorners = Qt.binding(() => isShown() ? corner.TopRight | corner.BottomRight : corner.None);
     ButtonBase.needPart(left, "wash", "PillHalfWash", {
         half: left,
         corners: () => left.squareCorners,
         isShown: () => {
             const state = control.shownState ?? left;
-            return metrics.rightButtonVisible && Boolean(state.hovered || state.pressed || state.checked && metrics.separatorVisible);
+            return isShown() && Boolean(state.hovered || state.pressed || state.checked && metrics.separatorVisible);
         },
         themeType: () => control.themeType,
         controlsTarget: () => control.shownState ?? left,

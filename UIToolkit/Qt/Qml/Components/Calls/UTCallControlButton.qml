@@ -116,7 +116,10 @@ KFrame {
         CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner);
     }
     onButtonStyleChanged: UTCallControlButtonData.buttonStyle = buttonStyle
-    onButtonSizeChanged: UTCallControlButtonData.buttonSize = buttonSize
+    onButtonSizeChanged: {
+        UTCallControlButtonData.buttonSize = buttonSize;
+        CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner);
+    }
     onButtonStateChanged: UTCallControlButtonData.buttonState = buttonState
     onTextChanged: CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner)
     onShowTextChanged: CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner)

@@ -61,7 +61,7 @@ Column {
                 id: table
 
                 readonly property bool isMirrored: LayoutMirroring.enabled
-                readonly property real labelWidth: 120 * App.textScale
+                readonly property real labelWidth: 136 * App.textScale
                 readonly property real columnWidth: {
                     let width = 72 * App.textScale;
                     for (let i = 0; i < children.length; ++i)
@@ -96,17 +96,25 @@ Column {
                 Repeater {
                     model: control.rows
 
-                    KRectangle {
+                    Item {
                         id: line
 
                         required property var modelData
                         property real widest: 0
 
                         width: cells.width
-                        height: cells.height + (color.a > 0 ? 2 * Metrics.small : 0)
-                        radius: Metrics.smallRadius
-                        backgroundColorSetName: control.groundOf(modelData) // qmllint disable use-proper-function
+                        height: cells.height + (ground.color.a > 0 ? 2 * Metrics.small : 0)
 
+                        // Behind the examples only: the label is made for the page's ground.
+                        KRectangle {
+                            id: ground
+
+                            anchors.right: parent.right
+                            width: parent.width - table.labelWidth - cells.spacing
+                            height: parent.height
+                            radius: Metrics.smallRadius
+                            backgroundColorSetName: control.groundOf(line.modelData) // qmllint disable use-proper-function
+                        }
                         Row {
                             id: cells
 

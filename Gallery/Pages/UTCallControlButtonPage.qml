@@ -18,7 +18,12 @@ GalleryPage {
     // Icons that suit a type.
     function leftIconOf(type: string): string {
         return type === "ClosedCaptions" ? "captions-bold" : type === "Panel" ? "people-bold"
-            : type.startsWith("Korvu") ? "ai-sparkle-bold" : "microphone-bold";
+            : type === "KorvuAssistant" ? "assistant.svg" : type === "KorvuAssistantLarge" ? "assistant-large.svg" : "microphone-bold";
+    }
+
+    // An assistant has a face of its own, which fills the button.
+    function isBitmap(type: string): bool {
+        return type.startsWith("Korvu");
     }
 
     category: qsTr("Calls")
@@ -52,8 +57,9 @@ GalleryPage {
             rightEnabled: rightEnabled.value
             leftCheckable: leftCheckable.value
             rightCheckable: rightCheckable.value
-            leftIcon: "microphone-bold"
-            leftCheckedIcon: "microphone-muted-bold"
+            leftIcon: page.isBitmap(type.value) ? page.leftIconOf(type.value) : "microphone-bold"
+            leftCheckedIcon: page.isBitmap(type.value) ? "" : "microphone-muted-bold"
+            isLeftBitmap: page.isBitmap(type.value)
             leftName: qsTr("Mute")
             leftTooltip: leftChecked ? qsTr("Unmute the microphone") : qsTr("Mute the microphone")
             rightIcon: type.value === "DualIcon" ? "video-bold" : "arrow-up-bold"
@@ -98,8 +104,10 @@ GalleryPage {
             required property StateRecord exampleState
 
             buttonType: UTCallControlButtonEnum[row]
-            text: row === "Panel" ? qsTr("People") : ""
+            buttonSize: UTCallControlButtonEnum.Small
+            text: row === "Panel" ? qsTr("All") : ""
             leftIcon: page.leftIconOf(row)
+            isLeftBitmap: page.isBitmap(row)
             leftName: row
             rightIcon: row === "DualIcon" ? "video-bold" : "arrow-up-bold"
             rightName: qsTr("More")
@@ -129,6 +137,7 @@ GalleryPage {
                     buttonSize: UTCallControlButtonEnum[sizeCell.modelData.size]
                     text: page.canLabel(sizeCell.modelData.type) ? qsTr("Share") : ""
                     leftIcon: text ? "share-screen-bold" : page.leftIconOf(sizeCell.modelData.type)
+                    isLeftBitmap: page.isBitmap(sizeCell.modelData.type)
                     leftName: qsTr("Share")
                     rightIcon: sizeCell.modelData.type === "DualIcon" ? "video-bold" : "arrow-up-bold"
                     rightName: qsTr("More")

@@ -66,6 +66,14 @@ Window {
             onRightClicked: scene.tell(rightButton, "pressed")
         }
         UTDualIconButton { leftAccessibleName: "Dual icon"; rightAccessibleName: "Second dual icon"; onLeftClicked: scene.tell(leftButton, "pressed") }
+        UTCallControlButtonWrapper {
+            action: UTCallControlButtonWrapper.Action.RaiseHand
+            isOn: true
+            count: 2
+            onTriggered: scene.tell(leftButton, "pressed")
+        }
+        UTMoreInfoButton { tooltip: "More"; moreInfoText: "What there is to know" }
+        UTIndicatorButton { tooltip: "Nothing to indicate" }
         UTPillButton { text: "Unread"; accessibleText: "None unread"; onClicked: accessibleText = "Two unread" }
     }
 }

@@ -61,6 +61,7 @@ TestCase {
 
     //! What was announced since the test began, or since this was last asked.
     function heard(): var {
+        wait(0); // what is to be said later is said
         const texts = announced.signalArguments.map(args => args[0]);
         announced.clear();
         return texts;

@@ -58,14 +58,12 @@ ToolkitTestCase {
 
     function test_mouseArea() {
         const clickable = createTemporaryQmlObject("import QtQuick; MouseArea { width: 100; height: 30 }", testCase);
-        const doubleClicks = spyOn(clickable, "doubleClicked");
         const text = make("KText", { text: "Text on a button" }, clickable);
         const area = text.textMouseArea;
         for (const [x, isOver] of [[5, true], [390, false]]) {
             mouseMove(testCase, x, 5);
             tryCompare(area, "containsMouse", isOver);
         }
-        mouseDoubleClickSequence(text, 20, 5);
-        compare(doubleClicks.count, 1, "clicks pass through the text");
+        compare(emitted(clickable, ["pressedChanged"], () => mouseClick(text)), "pressedChanged,pressedChanged", "clicks pass through");
     }
 }

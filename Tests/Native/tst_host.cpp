@@ -2,6 +2,7 @@
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QQmlComponent>
+#include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickImageProvider>
 #include <QRegularExpression>
@@ -80,6 +81,10 @@ void tst_Host::installsOnce()
     QCOMPARE(engine.imageProvider(u"svg"_s), svg);
     QCOMPARE(engine.imageProvider(u"emoji"_s), emoji);
     KorvuHost::install(nullptr);
+    QCOMPARE(engine.rootContext()->contextProperty(u"themeMode"_s), u"global"_s);
+    engine.rootContext()->setContextProperty(u"themeMode"_s, u"dark"_s);
+    KorvuHost::install(&engine);
+    QCOMPARE(engine.rootContext()->contextProperty(u"themeMode"_s), u"dark"_s);
 }
 
 void tst_Host::moduleInSeveralEngines()

@@ -1,5 +1,6 @@
 #include "KorvuHost.h"
 
+#include <QQmlContext>
 #include <QQmlEngine>
 
 #include "AccessibleItems.h"
@@ -10,6 +11,8 @@
 #include "EmojiText.h"
 #include "KFont.h"
 #include "KSvgImageProvider.h"
+
+using namespace Qt::StringLiterals;
 
 void KorvuHost::install(QQmlEngine *engine)
 {
@@ -26,4 +29,7 @@ void KorvuHost::install(QQmlEngine *engine)
         engine->addImageProvider(DynamicSource::providerId(), new DynamicImageProvider);
     if (!engine->imageProvider(KSvgImageProvider::providerId()))
         engine->addImageProvider(KSvgImageProvider::providerId(), new KSvgImageProvider);
+    // Every themed component asks its context for it, and to learn that there is none would take an exception each time.
+    if (!engine->rootContext()->contextProperty(u"themeMode"_s).isValid())
+        engine->rootContext()->setContextProperty(u"themeMode"_s, u"global"_s);
 }

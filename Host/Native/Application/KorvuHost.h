@@ -8,7 +8,8 @@ class QQmlEngine;
 //! providers in an engine that does not import the module.
 namespace KorvuHost {
 
-//! Gives \a engine the image providers "svg", "emoji" and "dynamic", sees to the fonts and begins to track the user's input.
+//! Gives \a engine the image providers "svg", "emoji" and "dynamic" and the context property \c themeMode, those of these
+//! that it has not yet; sees to the fonts and begins to track the user's input.
 //! Further calls for the same engine do nothing.
 KORVUUI_EXPORT void install(QQmlEngine *engine);
 

@@ -26,13 +26,17 @@ struct FlagProperty
 {
     int index = -1;
     int notifySignal = -1;
+    bool isPlainBool = false;
 };
 using FlagProperties = std::array<FlagProperty, UTEventData::FlagCount>;
 
 FlagProperty findFlag(const QMetaObject *metaObject, const char *name)
 {
     const int index = metaObject->indexOfProperty(name);
-    return index < 0 ? FlagProperty() : FlagProperty{index, metaObject->property(index).notifySignalIndex()};
+    if (index < 0)
+        return {};
+    const QMetaProperty property = metaObject->property(index);
+    return {index, property.notifySignalIndex(), property.metaType() == QMetaType::fromType<bool>()};
 }
 
 // Searching the long list of an item's properties is what following an item costs, so the answers for compiled classes are
@@ -103,6 +107,7 @@ void UTEventData::setSource(QObject *source)
         const FlagProperties properties = findFlags(source->metaObject());
         for (size_t i = 0; i < properties.size(); ++i) {
             m_sourceProperties[i] = properties[i].index;
+            m_isPlainBool[i] = properties[i].isPlainBool;
             if (properties[i].notifySignal >= 0)
                 QMetaObject::connect(source, properties[i].notifySignal, this, changed);
         }
@@ -125,11 +130,16 @@ void UTEventData::setFollowsItem(bool followsItem)
 
 void UTEventData::readSource()
 {
-    const QMetaObject *metaObject = m_source->metaObject();
     for (size_t i = 0; i < FlagCount; ++i) {
         if (m_sourceProperties[i] < 0)
             continue;
-        const bool value = metaObject->property(m_sourceProperties[i]).read(m_source).toBool();
+        bool value = false;
+        if (m_isPlainBool[i]) {
+            void *arguments[] = {&value};
+            QMetaObject::metacall(m_source, QMetaObject::ReadProperty, m_sourceProperties[i], arguments);
+        } else {
+            value = m_source->metaObject()->property(m_sourceProperties[i]).read(m_source).toBool();
+        }
         const auto set = flags[i].set;
         (this->*set)(value);
     }

@@ -66,7 +66,9 @@ private:
     void setFlag(bool &flag, bool value, void (UTEventData::*changed)());
 
     QPointer<QObject> m_source;
-    std::array<int, FlagCount> m_sourceProperties = {}; // indexes, -1 where there is none
+    // Where the source has its flags; -1 for nowhere, and whether it is the plain bool that needs no variant to be read.
+    std::array<int, FlagCount> m_sourceProperties = {};
+    std::array<bool, FlagCount> m_isPlainBool = {};
     bool m_followsItem = false;
     bool m_enabled = false;
     bool m_hovered = false;

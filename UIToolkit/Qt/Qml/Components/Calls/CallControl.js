@@ -21,6 +21,14 @@ function toggled(control, side, half) {
     }
 }
 
+// Colours follow the state from the first change on. At rest nothing has to be listened to.
+function follow(control, left) {
+    if (control.leftState)
+        return;
+    control.leftState = Qt.binding(() => control.shownState ?? left);
+    control.controlsTarget = Qt.binding(() => control.ground ?? control.leftState);
+}
+
 // Gives \a control the label and the right half that its type, after its \a metrics, and its text ask for. A script cannot
 // name a \a corner itself.
 function arrange(control, left, metrics, corner) {
@@ -28,13 +36,13 @@ function arrange(control, left, metrics, corner) {
     if (metrics.showText && !left.parts?.label) {
         ButtonBase.needPart(left, "label", "CallControlLabel", { control: control, half: left }, left);
         const label = left.parts.label;
-        control.labelHeight = Qt.binding(() => label.naturalHeight);
-        control.labelRoom = Qt.binding(() => metrics.showText ? metrics.textLeftMargin + label.naturalWidth : 0);
-        arrangeLeft(control, left, metrics);
+        metrics.labelHeight = Qt.binding(() => label.naturalHeight);
+        metrics.labelRoom = Qt.binding(() => metrics.showText ? metrics.textLeftMargin + label.naturalWidth : 0);
+        arrangeLeft(left, metrics);
     }
     if (hasRightHalf(metrics) && !control.rightButton) {
         control.rightButton = makeRightHalf(control, left, metrics, corner);
-        arrangeLeft(control, left, metrics);
+        arrangeLeft(left, metrics);
     }
     showTooltip(left);
 }
@@ -46,11 +54,11 @@ function hasRightHalf(metrics) {
 }
 
 // From here on the icon does not lie in the middle of the pill any more.
-function arrangeLeft(control, left, metrics) {
-    const naturalWidth = () => metrics.leftSideLeftPadding + metrics.leftIconSize.width + control.labelRoom + metrics.leftSideRightPadding;
+function arrangeLeft(left, metrics) {
+    const naturalWidth = () => metrics.leftSideLeftPadding + metrics.leftIconSize.width + metrics.labelRoom + metrics.leftSideRightPadding;
     const start = () => metrics.leftSideLeftPadding + Math.max(0, Math.round((left.width - naturalWidth()) / 2));
     const end = () => left.width - start() - metrics.leftIconSize.width;
-    left.x = Qt.binding(() => left.mirrored ? control.rightRoom : 0);
+    left.anchors.rightMargin = Qt.binding(() => metrics.rightRoom); // mirrored with the layout
     left.leftPadding = Qt.binding(() => left.mirrored ? end() : start());
     left.rightPadding = Qt.binding(() => left.mirrored ? start() : end());
 }
@@ -61,8 +69,8 @@ function makeRightHalf(control, left, metrics, corner) {
     const isShown = () => hasRightHalf(metrics);
     const isOneThing = () => control.leftChecked && !metrics.separatorVisible;
     const right = ButtonBase.needPart(left, "rightHalf", "PillHalf", {
-        x: () => left.mirrored ? 0 : control.width - control.rightRoom,
-        width: () => control.rightRoom,
+        x: () => left.mirrored ? 0 : control.width - metrics.rightRoom,
+        width: () => metrics.rightRoom,
         height: () => control.height,
         visible: isShown,
         activeFocusOnTab: () => left.activeFocusOnTab,
@@ -90,8 +98,9 @@ function makeRightHalf(control, left, metrics, corner) {
 
     // Of two halves, each shows by itself that it is hovered or pressed.
     control.ground = Qt.binding(() => isShown()
-        ? { enabled: left.enabled || control.rightEnabled, checked: isOneThing() } : undefined);
-    control.rightRoom = Qt.binding(() => isShown() ? right.naturalWidth : 0);
+        ? { enabled: left.enabled || control.rightEnabled, checked: isOneThing() } : null);
+    follow(control, left);
+    metrics.rightRoom = Qt.binding(() => isShown() ? right.naturalWidth : 0);
     left.squareCorners = Qt.binding(() => isShown() ? corner.TopRight | corner.BottomRight : corner.None);
     ButtonBase.needPart(left, "wash", "PillHalfWash", {
         half: left,

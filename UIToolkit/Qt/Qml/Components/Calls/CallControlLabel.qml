@@ -29,7 +29,7 @@ Text {
     visible: isShown
     text: control.text
     font: control.UTCallControlButtonData.font
-    color: ThemeUtils.getColor(control.shownState ?? half, control.textColorSet)
+    color: ThemeUtils.getColor(control.leftState, control.textColorSet)
     elide: Text.ElideRight
     verticalAlignment: Text.AlignVCenter
 

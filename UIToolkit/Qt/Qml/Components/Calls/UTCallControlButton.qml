@@ -83,11 +83,10 @@ KFrame {
     readonly property alias leftButton: leftHalf
     property PillHalf rightButton: null
 
-    // For the script, which binds them when there is a label or a right half; bindings that were there already would win.
-    property real rightRoom: 0
-    property real labelRoom: 0
-    property real labelHeight: 0
-    property var ground
+    // For the script: what shows the state of a button of two halves; null while that is the left half.
+    property var ground: null
+    // Whose state the left half shows; null while it has not left its state of rest.
+    property var leftState: null
     // Of the colour of everything that lies on the pill.
     readonly property kColorSet textColorSet: ThemeManager.globalTheme, App.getColorSet(UTCallControlButtonData.textColorSetName, themeType)
 
@@ -96,19 +95,11 @@ KFrame {
     signal leftToggled()
     signal rightToggled()
 
-    UTCallControlButtonData.buttonType: buttonType
-    // The metrics do not follow the type by themselves.
-    UTCallControlButtonData.onButtonTypeChanged: UTCallControlButtonData.updateButtonSize()
+    UTCallControlButtonData.metricsFollowType: true
+    UTCallControlButtonData.buttonType: UTCallControlButtonEnum.Round
 
-    implicitWidth: UTCallControlButtonData.leftSideLeftPadding + UTCallControlButtonData.leftIconSize.width
-        + labelRoom + UTCallControlButtonData.leftSideRightPadding + rightRoom
-    implicitHeight: Math.max(UTCallControlButtonData.height, labelHeight)
     radius: height / 2
-    controlsTarget: ground ?? shownState ?? leftHalf
-    // Halves that a line parts are checked each on its own; else the right one is an annex of the left one.
-    backgroundColorSetName: leftChecked && !UTCallControlButtonData.separatorVisible ? UTCallControlButtonData.checkedBackgroundColorSetName
-        : UTCallControlButtonData.backgroundColorSetName
-    borderColorSetName: UTCallControlButtonData.borderColorSetName || "button-ghost-border" // seen in high contrast only
+    controlsTarget: null // at rest, which most buttons always are: see the script's follow()
 
     // Handlers in place of bindings: most buttons keep the first values, and have nothing but an icon.
     onButtonTypeChanged: {
@@ -124,7 +115,10 @@ KFrame {
     onTextChanged: CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner)
     onShowTextChanged: CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner)
     onLeftCheckableChanged: leftHalf.checkable = leftCheckable || leftChecked
-    onLeftCheckedChanged: leftHalf.checked = leftChecked
+    onLeftCheckedChanged: {
+        UTCallControlButtonData.leftChecked = leftChecked;
+        leftHalf.checked = leftChecked;
+    }
     onLeftTooltipChanged: CallControl.giveTooltip(control, leftHalf)
     onLeftAccessibleNameChanged: CallControl.giveTooltip(control, leftHalf)
     onLeftAccessibleDescriptionChanged: leftHalf.Accessible.description = leftAccessibleDescription || badgeText
@@ -138,6 +132,7 @@ KFrame {
         Accessible.name = Qt.binding(() => text || leftName || leftTooltip || leftAccessibleName);
     }
     onShownStateChanged: {
+        CallControl.follow(control, leftHalf);
         leftHalf.activeFocusOnTab = false;
         leftChecked = Qt.binding(() => shownState?.checked ?? false);
     }
@@ -155,8 +150,7 @@ KFrame {
             };
         }
 
-        width: control.width - control.rightRoom
-        height: control.height
+        anchors.fill: parent
         implicitWidth: 0 // the pill's business
         implicitHeight: 0
         text: control.leftAccessibleName || control.text || control.leftName
@@ -166,13 +160,18 @@ KFrame {
             source: {
                 const name = leftHalf.checked && control.leftCheckedIcon.length > 0 ? control.leftCheckedIcon : control.leftIcon;
                 return name.length === 0 ? "" : control.isLeftBitmap ? "qrc:/Resources/" + name
-                    : "image://svg/" + ThemeUtils.getColor(control.shownState ?? leftHalf, control.textColorSet) + "/" + name;
+                    : "image://svg/" + ThemeUtils.getColor(control.leftState, control.textColorSet) + "/" + name;
             }
             sourceSize: control.UTCallControlButtonData.leftIconSize
             fillMode: Image.Pad // in the middle
             mipmap: true // as everywhere, for the texture is shared
         }
 
+        onEnabledChanged: CallControl.follow(control, leftHalf)
+        onPressedChanged: CallControl.follow(control, leftHalf)
+        onHoveredChanged: CallControl.follow(control, leftHalf)
+        onActiveFocusChanged: CallControl.follow(control, leftHalf)
+        onCheckedChanged: CallControl.follow(control, leftHalf)
         onClicked: CallControl.clicked(control, "left", leftHalf)
         onToggled: CallControl.toggled(control, "left", leftHalf)
     }

@@ -111,6 +111,9 @@ constexpr std::array<StyleColors, 5> styleTable = {{
      QLatin1StringView("button-join-fill-border"), QLatin1StringView("button-join-fill-text")},
 }};
 
+// Without a border of its own a button has one that is seen in high contrast only.
+const QString faintBorder = QStringLiteral("button-ghost-border");
+
 constexpr StyleColors activeGhost = {QLatin1StringView("button-secondary-active-background"),
                                      QLatin1StringView("button-secondary-active-background"), QLatin1StringView(),
                                      QLatin1StringView("button-ghost-active-text")};
@@ -145,10 +148,13 @@ UTCallControlButtonData::UTCallControlButtonData(QObject *attachee)
     updateButtonSize();
     updateButtonStyle();
     updatePanelPadding();
+    m_button = qobject_cast<QQuickItem *>(attachee);
+    updateButton();
 }
 
 void UTCallControlButtonData::updateButtonType()
 {
+    const Update update(this);
     if (size_t(m_buttonType) < typeTable.size()) {
         const Flags &flags = typeTable[size_t(m_buttonType)];
         setCanShowText(flags.canShowText);
@@ -157,10 +163,13 @@ void UTCallControlButtonData::updateButtonType()
         setCanShowBadge(flags.canShowBadge.value_or(m_canShowBadge));
     }
     updatePanelPadding();
+    if (m_metricsFollowType)
+        updateButtonSize();
 }
 
 void UTCallControlButtonData::updateButtonSize()
 {
+    const Update update(this);
     const size_t size = size_t(m_buttonSize);
     if (size < sizeTable.size()) {
         setHeight(sizeTable[size].height);
@@ -184,6 +193,7 @@ void UTCallControlButtonData::updateButtonStyle()
 {
     if (size_t(m_buttonStyle) >= styleTable.size())
         return;
+    const Update update(this);
     const bool isActiveGhost = m_buttonStyle == Ghost && m_buttonState == Active;
     const StyleColors &colors = isActiveGhost ? activeGhost : styleTable[size_t(m_buttonStyle)];
     setBackgroundColorSetName(colors.background);
@@ -212,4 +222,26 @@ void UTCallControlButtonData::updatePanelPadding()
     const auto row = metricTable.constFind(m_showText ? Panel : Round);
     setLeftSideLeftPadding(row->leftSideLeftPadding[size]);
     setLeftSideRightPadding(row->leftSideRightPadding[size]);
+}
+
+void UTCallControlButtonData::updateButton()
+{
+    if (!m_button)
+        return;
+    m_button->setImplicitWidth(m_leftSideLeftPadding + m_leftIconSize.width() + m_labelRoom + m_leftSideRightPadding
+                               + m_rightRoom);
+    m_button->setImplicitHeight(std::max<qreal>(m_height, m_labelHeight));
+    // Halves that a line parts are checked each on its own; else the right one is an annex of the left one.
+    giveButton("backgroundColorSetName", m_buttonBackground,
+               m_leftChecked && !m_separatorVisible ? m_checkedBackgroundColorSetName : m_backgroundColorSetName);
+    giveButton("borderColorSetName", m_buttonBorder,
+               m_borderColorSetName.isEmpty() ? faintBorder : m_borderColorSetName);
+}
+
+void UTCallControlButtonData::giveButton(const char *property, QString &given, const QString &name)
+{
+    if (given == name)
+        return;
+    given = name;
+    m_button->setProperty(property, name);
 }

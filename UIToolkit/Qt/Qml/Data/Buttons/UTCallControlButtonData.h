@@ -4,12 +4,17 @@
 #include "UTCallControlButtonEnum.h"
 
 #include <QFont>
+#include <QPointer>
+#include <QQuickItem>
 #include <QSize>
 #include <QtQml/qqml.h>
 
 /*!
  * What a UTCallControlButton looks like, from its type, style, size and state: metrics, names of
  * colour sets and which of its parts there are.
+ *
+ * Implicit size and colour sets of the button itself it writes into the button, which bindings would
+ * do too, but at a third of the button's cost.
  *
  * An unknown number as type, style or size changes nothing. On any other component than its own the
  * object stays inert: its outputs keep their first values.
@@ -68,6 +73,17 @@ class UTCallControlButtonData : public KObject
     Q_PROPERTY(bool canShowBadge READ canShowBadge WRITE setCanShowBadge NOTIFY canShowBadgeChanged FINAL)
 
     using Self = UTCallControlButtonData;
+    //! Whether a change of the type has the metrics follow at once; the component's to say, false by default.
+    Q_PROPERTY(
+        bool metricsFollowType READ metricsFollowType WRITE setMetricsFollowType NOTIFY metricsFollowTypeChanged FINAL)
+    //! What the label and the right half add to the width of the button, and the least height that the label
+    //! needs; the component's to say, 0 by default.
+    Q_PROPERTY(qreal labelRoom READ labelRoom WRITE setLabelRoom NOTIFY labelRoomChanged FINAL)
+    Q_PROPERTY(qreal labelHeight READ labelHeight WRITE setLabelHeight NOTIFY labelHeightChanged FINAL)
+    Q_PROPERTY(qreal rightRoom READ rightRoom WRITE setRightRoom NOTIFY rightRoomChanged FINAL)
+    //! Whether the left half is checked, and with it the button, unless a line parts the halves; the component's to
+    //! say, false by default.
+    Q_PROPERTY(bool leftChecked READ leftChecked WRITE setLeftChecked NOTIFY leftCheckedChanged FINAL)
 
 public:
     explicit UTCallControlButtonData(QObject *attachee = nullptr);
@@ -100,6 +116,11 @@ public:
     int rightSideRightPadding() const { return m_rightSideRightPadding; }
     QSize rightIconSize() const { return m_rightIconSize; }
     bool canShowBadge() const { return m_canShowBadge; }
+    bool metricsFollowType() const { return m_metricsFollowType; }
+    qreal labelRoom() const { return m_labelRoom; }
+    qreal labelHeight() const { return m_labelHeight; }
+    qreal rightRoom() const { return m_rightRoom; }
+    bool leftChecked() const { return m_leftChecked; }
 
     void setButtonType(UTCallControlButtonEnum::ButtonType type) { set(m_buttonType, type, &Self::buttonTypeChanged); }
     void setButtonStyle(UTCallControlButtonEnum::ButtonStyle style)
@@ -148,6 +169,11 @@ public:
     }
     void setRightIconSize(const QSize &size) { set(m_rightIconSize, size, &Self::rightIconSizeChanged); }
     void setCanShowBadge(bool can) { set(m_canShowBadge, can, &Self::canShowBadgeChanged); }
+    void setMetricsFollowType(bool follow) { set(m_metricsFollowType, follow, &Self::metricsFollowTypeChanged); }
+    void setLabelRoom(qreal room) { set(m_labelRoom, room, &Self::labelRoomChanged); }
+    void setLabelHeight(qreal height) { set(m_labelHeight, height, &Self::labelHeightChanged); }
+    void setRightRoom(qreal room) { set(m_rightRoom, room, &Self::rightRoomChanged); }
+    void setLeftChecked(bool checked) { set(m_leftChecked, checked, &Self::leftCheckedChanged); }
 
 public Q_SLOTS:
     //! Sets the flags of the type.
@@ -182,6 +208,11 @@ Q_SIGNALS:
     void rightSideRightPaddingChanged();
     void rightIconSizeChanged();
     void canShowBadgeChanged();
+    void metricsFollowTypeChanged();
+    void labelRoomChanged();
+    void labelHeightChanged();
+    void rightRoomChanged();
+    void leftCheckedChanged();
 
 private:
     template<typename T>
@@ -190,12 +221,40 @@ private:
         if (member == value)
             return;
         member = value;
+        const Update update(this);
         Q_EMIT(this->*changed)();
     }
 
+    // The button is updated once, after the outermost of several changes.
+    class Update
+    {
+    public:
+        explicit Update(Self *data)
+            : m_data(data)
+        {
+            ++m_data->m_updates;
+        }
+        ~Update()
+        {
+            if (--m_data->m_updates == 0)
+                m_data->updateButton();
+        }
+
+    private:
+        Q_DISABLE_COPY_MOVE(Update)
+
+        Self *m_data;
+    };
+
     void updateFont();
     void updatePanelPadding();
+    void updateButton();
+    void giveButton(const char *property, QString &given, const QString &name);
 
+    QPointer<QQuickItem> m_button;
+    // What the button has been given.
+    QString m_buttonBackground;
+    QString m_buttonBorder;
     QString m_backgroundColorSetName;
     QString m_checkedBackgroundColorSetName;
     QString m_borderColorSetName;
@@ -207,6 +266,10 @@ private:
     UTCallControlButtonEnum::ButtonStyle m_buttonStyle = UTCallControlButtonEnum::Secondary;
     UTCallControlButtonEnum::ButtonSize m_buttonSize = UTCallControlButtonEnum::Medium;
     UTCallControlButtonEnum::ButtonState m_buttonState = UTCallControlButtonEnum::Inactive;
+    qreal m_labelRoom = 0;
+    qreal m_labelHeight = 0;
+    qreal m_rightRoom = 0;
+    int m_updates = 0;
     int m_height = 0;
     int m_leftSideLeftPadding = 0;
     int m_leftSideRightPadding = 0;
@@ -219,6 +282,8 @@ private:
     bool m_separatorVisible = false;
     bool m_rightButtonVisible = false;
     bool m_canShowBadge = true;
+    bool m_metricsFollowType = false;
+    bool m_leftChecked = false;
 };
 
 QML_DECLARE_TYPEINFO(UTCallControlButtonData, QML_HAS_ATTACHED_PROPERTIES)

@@ -136,7 +136,7 @@ GalleryPage {
                     buttonType: UTCallControlButtonEnum[sizeCell.modelData.type]
                     buttonSize: UTCallControlButtonEnum[sizeCell.modelData.size]
                     text: page.canLabel(sizeCell.modelData.type) ? qsTr("Share") : ""
-                    leftIcon: text ? "share-screen-bold" : page.leftIconOf(sizeCell.modelData.type)
+                    leftIcon: page.canLabel(sizeCell.modelData.type) ? "share-screen-bold" : page.leftIconOf(sizeCell.modelData.type)
                     isLeftBitmap: page.isBitmap(sizeCell.modelData.type)
                     leftName: qsTr("Share")
                     rightIcon: sizeCell.modelData.type === "DualIcon" ? "video-bold" : "arrow-up-bold"

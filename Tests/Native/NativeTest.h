@@ -14,7 +14,8 @@ class NativeTest : public QObject
     Q_OBJECT
 
 protected:
-    //! What \a source describes, which must be a \a T.
+    //! What \a source describes, which must be a \a T. In a raw string prefer single quotes: to the moc of Qt 6.4, what is
+    //! between double quotes there is code, so that "#" or "//" may cost it the whole class.
     template<typename T = QObject>
     static std::unique_ptr<T> create(QQmlEngine &engine, const QByteArray &source, const QVariantMap &properties = {})
     {
@@ -32,6 +33,20 @@ protected:
         window.show();
         window.requestActivate();
         return QTest::qWaitForWindowActive(&window);
+    }
+
+    //! Around all pixels of \a image that \a isPainted is true of.
+    template<typename Predicate>
+    static QRect boundsOf(const QImage &image, Predicate isPainted)
+    {
+        QRect bounds;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (isPainted(image.pixelColor(x, y)))
+                    bounds |= QRect(x, y, 1, 1);
+            }
+        }
+        return bounds;
     }
 
     //! Announces what a data object says when it is not attached to a \a component.

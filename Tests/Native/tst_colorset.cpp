@@ -1,145 +1,124 @@
 #include "KColorSet.h"
 #include "KThemeUtils.h"
+#include "NativeTest.h"
 
 #include <QMetaProperty>
-#include <QRegularExpression>
-#include <QTest>
 #include <QVariant>
 
-namespace {
-KColorSet sample()
+using namespace Qt::StringLiterals;
+
+static KColorSet sample()
 {
-    return KColorSet(QStringLiteral("sample"), {Qt::black, Qt::white, Qt::red, Qt::green, Qt::blue, Qt::cyan});
-}
+    return KColorSet(u"sample"_s, {Qt::black, Qt::white, Qt::red, Qt::green, Qt::blue, Qt::cyan});
 }
 
-class tst_colorset : public QObject
+class tst_colorset : public NativeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
-    void startsWithoutColors();
-    void isValidAsAWhole();
-    void colorByState_data();
-    void colorByState();
-    void unknownStateIsNamed();
-    void propertiesInOrder();
-    void comparesAndCopies();
-    void unknownNames();
-    void themeTypes();
-};
-
-void tst_colorset::startsWithoutColors()
-{
-    const KColorSet set;
-    QVERIFY(!set.isValid());
-    QVERIFY(set.name().isEmpty());
-    for (int state = 0; state < KColorSet::StateCount; ++state)
-        QCOMPARE(set.color(KColorSet::State(state)), QColor());
-}
-
-void tst_colorset::isValidAsAWhole()
-{
-    QVERIFY(sample().isValid());
-    KColorSet set = sample();
-    set.setName({});
-    QVERIFY(!set.isValid());
-    set = sample();
-    set.setChecked({});
-    QVERIFY(!set.isValid());
-    // Fully transparent is a colour.
-    set.setChecked(Qt::transparent);
-    QVERIFY(set.isValid());
-}
-
-void tst_colorset::colorByState_data()
-{
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<QColor>("color");
-    const KColorSet set = sample();
-    QTest::newRow("normal") << QStringLiteral("normal") << set.normal();
-    QTest::newRow("hovered") << QStringLiteral("hovered") << set.hovered();
-    QTest::newRow("pressed") << QStringLiteral("pressed") << set.pressed();
-    QTest::newRow("disabled") << QStringLiteral("disabled") << set.disabled();
-    QTest::newRow("focused") << QStringLiteral("focused") << set.focused();
-    QTest::newRow("checked") << QStringLiteral("checked") << set.checked();
-}
-
-void tst_colorset::colorByState()
-{
-    QFETCH(QString, state);
-    QFETCH(QColor, color);
-    QCOMPARE(sample().color(state), color);
-    // Script code reaches the same through the meta-object.
-    const KColorSet set = sample();
-    QColor invoked;
-    const QMetaMethod method =
-        KColorSet::staticMetaObject.method(KColorSet::staticMetaObject.indexOfMethod("color(QString)"));
-    QVERIFY(method.invokeOnGadget(const_cast<KColorSet *>(&set), Q_RETURN_ARG(QColor, invoked), Q_ARG(QString, state)));
-    QCOMPARE(invoked, color);
-    const QMetaProperty property =
-        KColorSet::staticMetaObject.property(KColorSet::staticMetaObject.indexOfProperty(qPrintable(state)));
-    QCOMPARE(property.readOnGadget(&set).value<QColor>(), color);
-}
-
-void tst_colorset::unknownStateIsNamed()
-{
-    for (const char *state : {"Normal", "active", ""}) {
-        QTest::ignoreMessage(QtWarningMsg, QByteArray("KColorSet: color state is invalid! ") + state);
-        QVERIFY(!sample().color(QLatin1String(state)).isValid());
-    }
-}
-
-void tst_colorset::propertiesInOrder()
-{
-    const QList<QByteArray> expected{"name",     "normal",  "hovered", "pressed",
-                                     "disabled", "focused", "checked", "isValid"};
-    QList<QByteArray> found;
-    for (int i = 0; i < KColorSet::staticMetaObject.propertyCount(); ++i)
-        found.append(KColorSet::staticMetaObject.property(i).name());
-    QCOMPARE(found, expected);
-    QVERIFY(!KColorSet::staticMetaObject.property(int(expected.size()) - 1).isWritable());
-    QCOMPARE(QMetaType::fromName("KColorSet"), QMetaType::fromType<KColorSet>());
-}
-
-void tst_colorset::comparesAndCopies()
-{
-    QCOMPARE(QVariant::fromValue(sample()).value<KColorSet>(), sample());
-    KColorSet other = sample();
-    other.setPressed(Qt::yellow);
-    QVERIFY(other != sample());
-    other = sample();
-    other.setName(QStringLiteral("other"));
-    QVERIFY(other != sample());
-}
-
-void tst_colorset::unknownNames()
-{
-    QTest::ignoreMessage(QtWarningMsg, "Unknown colour set \"no-such-set\".");
-    for (int i = 0; i < 3; ++i) {
-        const KColorSet set = KThemeUtils::getColorSet("no-such-set", AppThemeType::Dark);
+    void startsWithoutColors()
+    {
+        const KColorSet set;
         QVERIFY(!set.isValid());
-        QCOMPARE(set.name(), QStringLiteral("no-such-set"));
+        QVERIFY(set.name().isEmpty());
+        for (int state = 0; state < KColorSet::StateCount; ++state)
+            QCOMPARE(set.color(KColorSet::State(state)), QColor());
     }
-    // Names are compared exactly.
-    QTest::ignoreMessage(QtWarningMsg, "Unknown colour set \"Text-primary\".");
-    QVERIFY(!KThemeUtils::getColorSet("Text-primary", AppThemeType::Light).isValid());
-    QCOMPARE(KThemeUtils::getColorSet({}, AppThemeType::Global), KColorSet());
-}
 
-void tst_colorset::themeTypes()
-{
-    QCOMPARE(KThemeUtils::stringToThemeType(QStringLiteral("global")), AppThemeType::Global);
-    QCOMPARE(KThemeUtils::stringToThemeType(QStringLiteral("light")), AppThemeType::Light);
-    QCOMPARE(KThemeUtils::stringToThemeType(QStringLiteral("dark")), AppThemeType::Dark);
-    QCOMPARE(KThemeUtils::stringToThemeType(QStringLiteral("highContrast")), AppThemeType::HighContrast);
-    QCOMPARE(KThemeUtils::stringToThemeType({}), AppThemeType::Global);
-    QTest::ignoreMessage(QtWarningMsg, "Unknown theme type \"Dark\".");
-    for (int i = 0; i < 2; ++i)
-        QCOMPARE(KThemeUtils::stringToThemeType(QStringLiteral("Dark")), AppThemeType::Global);
-}
+    void isValidAsAWhole()
+    {
+        QVERIFY(sample().isValid());
+        KColorSet set = sample();
+        set.setName({});
+        QVERIFY(!set.isValid());
+        set = sample();
+        set.setChecked({});
+        QVERIFY(!set.isValid());
+        // Fully transparent is a colour.
+        set.setChecked(Qt::transparent);
+        QVERIFY(set.isValid());
+    }
+
+    void colorByState()
+    {
+        const KColorSet set = sample();
+        const QMetaObject &meta = KColorSet::staticMetaObject;
+        const std::pair<const char *, QColor> states[] = {{"normal", set.normal()},   {"hovered", set.hovered()},
+                                                          {"pressed", set.pressed()}, {"disabled", set.disabled()},
+                                                          {"focused", set.focused()}, {"checked", set.checked()}};
+        for (const auto &[name, color] : states) {
+            const QString state = QLatin1String(name);
+            QCOMPARE(set.color(state), color);
+            // Script code reaches the same through the meta-object.
+            QColor invoked;
+            QVERIFY(meta.method(meta.indexOfMethod("color(QString)"))
+                        .invokeOnGadget(const_cast<KColorSet *>(&set), Q_RETURN_ARG(QColor, invoked),
+                                        Q_ARG(QString, state)));
+            QCOMPARE(invoked, color);
+            QCOMPARE(meta.property(meta.indexOfProperty(name)).readOnGadget(&set).value<QColor>(), color);
+        }
+    }
+
+    void unknownStateIsNamed()
+    {
+        for (const char *state : {"Normal", "active", ""}) {
+            QTest::ignoreMessage(QtWarningMsg, QByteArray("KColorSet: color state is invalid! ") + state);
+            QVERIFY(!sample().color(QLatin1String(state)).isValid());
+        }
+    }
+
+    void propertiesInOrder()
+    {
+        const QList<QByteArray> expected{"name",     "normal",  "hovered", "pressed",
+                                         "disabled", "focused", "checked", "isValid"};
+        QList<QByteArray> found;
+        for (int i = 0; i < KColorSet::staticMetaObject.propertyCount(); ++i)
+            found.append(KColorSet::staticMetaObject.property(i).name());
+        QCOMPARE(found, expected);
+        QVERIFY(!KColorSet::staticMetaObject.property(int(expected.size()) - 1).isWritable());
+        QCOMPARE(QMetaType::fromName("KColorSet"), QMetaType::fromType<KColorSet>());
+    }
+
+    void comparesAndCopies()
+    {
+        QCOMPARE(QVariant::fromValue(sample()).value<KColorSet>(), sample());
+        KColorSet other = sample();
+        other.setPressed(Qt::yellow);
+        QVERIFY(other != sample());
+        other = sample();
+        other.setName(u"other"_s);
+        QVERIFY(other != sample());
+    }
+
+    void unknownNames()
+    {
+        QTest::ignoreMessage(QtWarningMsg, "Unknown colour set \"no-such-set\".");
+        for (int i = 0; i < 3; ++i) {
+            const KColorSet set = KThemeUtils::getColorSet("no-such-set", AppThemeType::Dark);
+            QVERIFY(!set.isValid());
+            QCOMPARE(set.name(), u"no-such-set"_s);
+        }
+        // Names are compared exactly.
+        QTest::ignoreMessage(QtWarningMsg, "Unknown colour set \"Text-primary\".");
+        QVERIFY(!KThemeUtils::getColorSet("Text-primary", AppThemeType::Light).isValid());
+        QCOMPARE(KThemeUtils::getColorSet({}, AppThemeType::Global), KColorSet());
+    }
+
+    void themeTypes()
+    {
+        const std::pair<QString, AppThemeType> types[] = {{u"global"_s, AppThemeType::Global},
+                                                          {u"light"_s, AppThemeType::Light},
+                                                          {u"dark"_s, AppThemeType::Dark},
+                                                          {u"highContrast"_s, AppThemeType::HighContrast},
+                                                          {QString(), AppThemeType::Global}};
+        for (const auto &[name, type] : types)
+            QCOMPARE(KThemeUtils::stringToThemeType(name), type);
+        QTest::ignoreMessage(QtWarningMsg, "Unknown theme type \"Dark\".");
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(KThemeUtils::stringToThemeType(u"Dark"_s), AppThemeType::Global);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_colorset)
 #include "tst_colorset.moc"

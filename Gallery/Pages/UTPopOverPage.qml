@@ -194,6 +194,7 @@ GalleryPage {
                 spacing: 12
 
                 GalleryText {
+                    width: parent.width
                     text: qsTr("Notifications")
                     font: FontConstants.subheaderPrimary
                 }
@@ -203,6 +204,7 @@ GalleryPage {
                     wrapMode: Text.Wrap
                 }
                 UTPillButton {
+                    anchors.left: parent.left
                     text: qsTr("Turn on now")
                     buttonSize: UTButtonSize.S
                     focus: true

@@ -142,7 +142,7 @@ Item {
 
         interval: 500
         onTriggered: {
-            if (control.windowComponentInstance && (!checksMouse || !priv.isMouseInside()))
+            if (control.windowComponentInstance && (!checksMouse || !priv.isMouseOver(control.windowComponentInstance.contentItem)))
                 control.active = false;
         }
     }
@@ -232,7 +232,7 @@ Item {
                         const isHere = focusWindow && (focusWindow === popOverWindow || UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow));
                         if (isHere && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
                             focusLoss.stop();
-                        else if (focusWindow && popOverWindow.hasBeenActive)
+                        else if (focusWindow && popOverWindow.hasBeenActive && !(focusWindow === popOverWindow.scene && priv.isMouseOver(control.targetItem)))
                             control.active = false;
                         else
                             focusLoss.restart();
@@ -240,12 +240,18 @@ Item {
                 }
 
                 // Between two windows the focus may be nowhere for a moment, and on its way to this one it may pass through
-                // others.
+                // others. Going to the target by a click, it comes before the click, which may be meant to close the balloon
+                // and would open it anew.
                 Timer {
                     id: focusLoss
 
                     interval: popOverWindow.hasBeenActive ? 100 : 1000
-                    onTriggered: control.active = false
+                    onTriggered: {
+                        if (App.isMousePressed())
+                            restart();
+                        else
+                            control.active = false;
+                    }
                 }
 
                 KBalloon {
@@ -320,11 +326,12 @@ Item {
             return Qt.application.screens.length > 0; // qmllint disable missing-property
         }
 
-        function isMouseInside(): bool {
-            const content = control.windowComponentInstance.contentItem;
-            const origin = content.mapToGlobal(0, 0);
+        function isMouseOver(item: Item): bool {
+            if (!item)
+                return false;
+            const origin = item.mapToGlobal(0, 0);
             const mouse = Utils.getMousePos();
-            return mouse.x > origin.x && mouse.x < origin.x + content.width && mouse.y > origin.y && mouse.y < origin.y + content.height;
+            return mouse.x > origin.x && mouse.x < origin.x + item.width && mouse.y > origin.y && mouse.y < origin.y + item.height;
         }
 
         function update(): void {

@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 /*!
@@ -71,6 +72,17 @@ protected:
     static bool user(const QString &action)
     {
         return QProcess::execute(QStringLiteral("xdotool"), action.split(u' ')) == 0;
+    }
+
+    //! Presses \a key until \a happened: one pressed while the display hands the focus from window to window is lost.
+    static bool press(const char *key, const std::function<bool()> &happened)
+    {
+        constexpr int wait = patience / 5;
+        for (int time = 0; time < patience; time += wait) {
+            if (user(QStringLiteral("key ") + QLatin1StringView(key)) && QTest::qWaitFor(happened, wait))
+                return true;
+        }
+        return false;
     }
 
     //! Clicks into a corner of \a target, where no other window of the scene should cover it.

@@ -141,9 +141,9 @@ void tst_PopOver::closes()
     QSignalSpy activations(m_popOver, SIGNAL(popoverWindowActiveChanged(bool)));
     const QPointer<QQuickWindow> popOver = popOverWindow();
     if (how == QLatin1StringView("escape"))
-        QVERIFY(user(QStringLiteral("key Escape")));
+        QVERIFY(press("Escape", [&] { return !isActive(); }));
     else if (how == QLatin1StringView("window manager"))
-        QVERIFY(user(QStringLiteral("key alt+F4")));
+        QVERIFY(press("alt+F4", [&] { return !isActive(); }));
     else if (how == QLatin1StringView("function"))
         hide(false, 0, false);
     else

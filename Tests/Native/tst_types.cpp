@@ -181,7 +181,7 @@ void tst_Types::types_data()
                                         << type.isSingleton() << type.baseMetaObject();
     }
     // The rest is declared by the module's listing, and by that alone.
-    QFile listing(u":/qt/qml/UIToolkitQml/qmldir"_s);
+    QFile listing(QStringLiteral(UITOOLKIT_QML_DIR "/UIToolkitQml/qmldir"));
     QVERIFY(listing.open(QIODevice::ReadOnly));
     static const QRegularExpression entry(u"^(\\w+) 1\\.0 (\\w+)\\.qml$"_s, QRegularExpression::MultilineOption);
     const QString listed = QString::fromUtf8(listing.readAll());

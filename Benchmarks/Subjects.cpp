@@ -25,9 +25,9 @@ struct Listing
 Listing readListing()
 {
     Listing listing;
-    QFile file(bundle + "/qmldir"_L1);
+    QFile file(QStringLiteral(UITOOLKIT_QML_DIR "/UIToolkitQml/qmldir"));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        qFatal("The module UIToolkitQml has no directory listing in its bundle");
+        qFatal("%s: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
     const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
     for (const QString &line : lines) {
         const QStringList words = line.simplified().split(u' ');

@@ -1,27 +1,10 @@
-#include <QCursor>
-#include <QGuiApplication>
-#include <QProcess>
-#include <QQmlApplicationEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QRegularExpression>
-#include <QTest>
+#include "WindowTest.h"
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int patience = 20000; // milliseconds that anything may take on a busy machine
-
-constexpr const char *scene = R"(
-import QtQuick
-import Korvu 1.0
-import UIToolkitQml 1.0
-import UIToolkitQml_Private 1.0
-
+static const char scene[] = R"(
 Window {
     width: 400; height: 200; x: 300; y: 200
-    visible: true
 
     component Target: Rectangle {
         readonly property alias pointed: pointer.hovered
@@ -47,15 +30,13 @@ Window {
     }
 })";
 
-} // namespace
-
 //! Tool tips as a user of a desktop meets them.
-class tst_ToolTipWindows : public QObject
+class tst_ToolTipWindows : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { SHOW(scene); }
     void cleanup();
     void pointerMovesOn();
     void focusByKeyboard();
@@ -63,98 +44,67 @@ private Q_SLOTS:
 
 private:
     void point(const char *target);
-    QWindowList tips() const;
     //! The text of the one tool tip that shows; "?" for several.
     QString tip() const;
-
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
-    QQuickWindow *m_window = nullptr;
 };
-
-void tst_ToolTipWindows::init()
-{
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    QCursor::setPos(5, 5);
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_engine->loadData(scene);
-    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0));
-    QVERIFY(m_window);
-    QTRY_VERIFY_WITH_TIMEOUT(m_window->isExposed(), patience);
-    m_window->requestActivate();
-    QTRY_VERIFY_WITH_TIMEOUT(m_window->isActive(), patience);
-}
 
 void tst_ToolTipWindows::cleanup()
 {
-    m_engine.reset();
-    QTRY_VERIFY_WITH_TIMEOUT(tips().isEmpty(), patience);
-    QVERIFY(QGuiApplication::allWindows().isEmpty());
+    closeScene();
+    EVENTUALLY(QGuiApplication::allWindows().isEmpty());
 }
 
 void tst_ToolTipWindows::point(const char *target)
 {
-    const auto *item = m_window->findChild<QQuickItem *>(QLatin1StringView(target));
     // Two steps: a pointer that already stands there would cause no event.
-    QCursor::setPos(item->mapToGlobal(QPointF(2, 2)).toPoint());
-    QCursor::setPos(item->mapToGlobal(QPointF(10, 10)).toPoint());
-}
-
-QWindowList tst_ToolTipWindows::tips() const
-{
-    QWindowList windows = QGuiApplication::allWindows();
-    windows.removeIf([](const QWindow *window) { return window->type() != Qt::ToolTip || !window->isVisible(); });
-    return windows;
+    QCursor::setPos(globalCenter(item(target)) - QPoint(8, 8));
+    QCursor::setPos(globalCenter(item(target)));
 }
 
 QString tst_ToolTipWindows::tip() const
 {
-    const QWindowList windows = tips();
+    const QList<QQuickWindow *> windows = otherWindows();
     if (windows.size() != 1)
         return windows.isEmpty() ? QString() : u"?"_s;
-    const auto *content = static_cast<QQuickWindow *>(windows.first())->contentItem()->childItems().value(0);
-    const auto *item = content->childItems().value(0);
-    return item && windows.first()->isExposed() ? item->property("tooltipText").toString() : QString();
+    const QQuickItem *content = windows.first()->contentItem()->childItems().value(0)->childItems().value(0);
+    return content && windows.first()->isExposed() ? content->property("tooltipText").toString() : QString();
 }
 
 void tst_ToolTipWindows::pointerMovesOn()
 {
-    point("first");
-    QTRY_COMPARE_WITH_TIMEOUT(tip(), u"First"_s, patience);
-    const QRect target(m_window->findChild<QQuickItem *>(u"first"_s)->mapToGlobal(QPointF()).toPoint(), QSize(80, 30));
-    QVERIFY(!tips().constFirst()->geometry().intersects(target));
-    QVERIFY(m_window->isActive());
-
-    point("second");
-    QTRY_COMPARE_WITH_TIMEOUT(tip(), u"Second"_s, patience);
-    QVERIFY(m_window->isActive());
+    for (const char *target : {"first", "second"}) {
+        point(target);
+        EVENTUALLY(tip().toLower() == QLatin1StringView(target));
+        const QRectF covered(item(target)->mapToGlobal(QPointF()), item(target)->size());
+        QVERIFY(!QRectF(otherWindows().constFirst()->geometry()).intersects(covered));
+        QVERIFY(hasFocus(window()));
+    }
     QCursor::setPos(5, 5);
-    QTRY_COMPARE_WITH_TIMEOUT(tip(), QString(), patience);
+    EVENTUALLY(tip().isEmpty());
 }
 
 void tst_ToolTipWindows::focusByKeyboard()
 {
-    const auto press = [] { return QProcess::execute(u"xdotool"_s, {u"key"_s, u"Tab"_s}); };
-    QCOMPARE(press(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(tip(), u"First"_s, patience);
-    QCOMPARE(press(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(tip(), u"Second"_s, patience);
-    QVERIFY(m_window->isActive());
-
+    for (const char *target : {"first", "second"}) {
+        QVERIFY(user(u"key Tab"_s));
+        EVENTUALLY(tip().toLower() == QLatin1StringView(target));
+        QVERIFY(hasFocus(window()));
+    }
     // Nobody points at it: once it has moved, the tool tip goes.
-    m_window->setX(m_window->x() + 40);
-    QTRY_COMPARE_WITH_TIMEOUT(tip(), QString(), patience);
+    window()->setX(window()->x() + 40);
+    EVENTUALLY(tip().isEmpty());
 }
 
 void tst_ToolTipWindows::windowCloses()
 {
     for (const char *target : {"first", "second"}) {
-        m_window->show();
-        QTRY_VERIFY_WITH_TIMEOUT(m_window->isExposed(), patience);
+        window()->show();
+        EVENTUALLY(window()->isExposed());
         QCursor::setPos(5, 5);
         point(target);
-        QTRY_VERIFY_WITH_TIMEOUT(!tip().isEmpty(), patience);
-        m_window->hide();
-        QTRY_VERIFY_WITH_TIMEOUT(tips().isEmpty(), patience);
+        EVENTUALLY(!tip().isEmpty());
+        window()->hide();
+        EVENTUALLY(otherWindows().isEmpty());
     }
 }
 

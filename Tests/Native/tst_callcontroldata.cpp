@@ -118,9 +118,10 @@ private Q_SLOTS:
         QCOMPARE(ghost.last(2), QVariantList({QString(), u"button-ghost-text"_s}));
         recordAll(*data);
         data->setButtonState(Active);
-        QCOMPARE(takeSignals(), "backgroundColorSetName textColorSetName buttonState");
+        QCOMPARE(takeSignals(), "backgroundColorSetName textColorSet textColorSetName buttonState");
         QCOMPARE(data->backgroundColorSetName(), data->checkedBackgroundColorSetName());
         QCOMPARE(data->textColorSetName(), u"button-ghost-active-text"_s);
+        QCOMPARE(data->textColorSet(), App::instance()->getColorSet(data->textColorSetName()));
         for (ButtonStyle style : {CommonSecondary, Cancel, Join}) {
             data->setButtonStyle(style); // the state is the ghost's alone
             QCOMPARE(data->backgroundColorSetName(), data->checkedBackgroundColorSetName());

@@ -21,8 +21,10 @@ QtObject {
         && Script.tooltipText(control).length > 0
 
     onHasKeyboardFocusChanged: {
-        const settings = control.focusRingSettings();
-        if (hasKeyboardFocus && settings)
+        const settings = {};
+        if (hasKeyboardFocus)
+            control.focusRingWanted(settings);
+        if (Object.keys(settings).length > 0)
             Script.needPart(control, "focusRing", "KCustomFocusItem", settings, control);
     }
     onIsTipWantedChanged: {

@@ -60,7 +60,21 @@ function handleKey(control, event, isPress) {
     const activates = !isPress && control.isKeyPressed;
     control.isKeyPressed = isPress;
     if (activates)
-        control.activate();
+        activate(control);
+}
+
+// What the keyboard and assistive technology do to press a button.
+function activate(control) {
+    if (!control.checkable) {
+        control.clicked();
+    } else if (!control.isInExclusiveGroup) {
+        control.toggle();
+        control.toggled();
+    } else if (!control.checked) {
+        control.checked = true;
+        control.clicked();
+        control.toggled();
+    }
 }
 
 function say(control, text) {

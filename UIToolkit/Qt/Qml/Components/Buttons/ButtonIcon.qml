@@ -27,7 +27,7 @@ Image {
     }
     y: Math.round((label.height - height) / 2)
     visible: source.toString().length > 0
-    source: picture.toString().length > 0 ? picture : iconName.length > 0 && color.a > 0 ? "image://svg/" + color + "/" + iconName : ""
+    source: picture.toString().length > 0 ? picture : iconName.length > 0 && color.a > 0 ? `image://svg/${color}/${iconName}` : ""
     sourceSize: Qt.size(width, height)
     fillMode: Image.PreserveAspectFit
     mipmap: true

@@ -60,13 +60,11 @@ UTButtonBase {
     // Of its own, because to ask a control for its implicit width changes it.
     readonly property real naturalWidth: startPadding + iconRoom + secondIconRoom + labelRoom + endPadding
 
-    function focusRingSettings(): var {
-        return {
-            rectangularCornerMask: () => half.squareCorners,
-            customRect: () => Script.ringOfHalf(half),
-            themeType: () => half.themeType
-        };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, {
+        rectangularCornerMask: () => half.squareCorners,
+        customRect: () => Script.ringOfHalf(half),
+        themeType: () => half.themeType
+    })
 
     implicitWidth: naturalWidth
 

@@ -24,14 +24,12 @@ UTButtonBase {
     //! The item that hosts the focus ring; the top-most ancestor when undefined.
     property var focusDesignatedParent
 
-    function focusRingSettings(): var {
-        return {
-            isRectangle: true,
-            cornerRadius: () => priv.cornerRadius,
-            designatedParent: () => control.focusDesignatedParent,
-            themeType: () => control.themeType
-        };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, {
+        isRectangle: true,
+        cornerRadius: () => priv.cornerRadius,
+        designatedParent: () => control.focusDesignatedParent,
+        themeType: () => control.themeType
+    })
 
     UTBlockButtonData.originalText: text
     UTBlockButtonData.font: FontConstants.bodySecondary

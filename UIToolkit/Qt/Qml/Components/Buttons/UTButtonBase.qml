@@ -7,7 +7,7 @@
         id: control
         tooltip: "Mute"
         contentItem: KSvgIcon { svgName: "microphone-bold" }
-        function focusRingSettings(): var { return { isRectangle: true, cornerRadius: 4 }; }
+        onFocusRingWanted: settings => Object.assign(settings, { isRectangle: true, cornerRadius: 4 })
     }
     \endqml
 */
@@ -38,34 +38,17 @@ T.Button {
     property bool isKeyPressed: false
     property var parts
 
-    //! The properties of the focus ring, a KCustomFocusItem; null, the default, for no ring. The ring is made when the
-    //! keyboard first reaches the button; values that may change later are functions, and followed.
-    function focusRingSettings(): var {
-        return null;
-    }
-
-    //! What the keyboard and assistive technology do to press the button.
-    function activate(): void {
-        if (!checkable) {
-            clicked();
-        } else if (!isInExclusiveGroup) {
-            toggle();
-            toggled();
-        } else if (!checked) {
-            checked = true;
-            clicked();
-            toggled();
-        }
-    }
-
+    //! The keyboard reaches the button for the first time, which wants a focus ring then. The handler puts the properties of
+    //! the ring, a KCustomFocusItem, into \a settings; values that may change later are functions, and followed. A button
+    //! that puts in nothing has none. It is a signal because a function would cost each button its closure.
+    signal focusRingWanted(settings: var)
     // Called by name for the press action of assistive technology, in place of what Qt would do.
-    function accessiblePressAction(): void {
-        activate();
-    }
+    signal accessiblePressAction()
 
     implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset, implicitContentHeight + topPadding + bottomPadding)
 
+    onAccessiblePressAction: Script.activate(control)
     onHoveredChanged: Script.attend(control)
     onActiveFocusChanged: {
         isKeyPressed = false;

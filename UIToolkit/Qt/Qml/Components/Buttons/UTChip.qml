@@ -32,9 +32,7 @@ UTButtonBase {
     //! The chip is to be removed. Emitted when the close icon is pressed, not when it is released.
     signal closeClicked(var param)
 
-    function focusRingSettings(): var {
-        return { isRectangle: true, cornerRadius: 8, themeType: () => control.themeType };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, { isRectangle: true, cornerRadius: 8, themeType: () => control.themeType })
 
     UTChipData.themeType: themeType
     UTChipData.height: 24

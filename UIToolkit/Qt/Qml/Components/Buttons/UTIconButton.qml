@@ -24,9 +24,7 @@ UTButtonBase {
     //! The item that hosts the focus ring.
     property var focusDesignatedParent: control
 
-    function focusRingSettings(): var {
-        return { designatedParent: () => control.focusDesignatedParent, themeType: () => control.themeType };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, { designatedParent: () => control.focusDesignatedParent, themeType: () => control.themeType })
 
     UTIconButtonData.themeType: themeType
     UTIconButtonData.eventData: UTEventData { followsItem: true }
@@ -45,7 +43,7 @@ UTButtonBase {
         source: {
             const color = control.UTIconButtonData.textColorData.color;
             const name = control.UTIconButtonData.iconData.icon;
-            return color.a > 0 && name.length > 0 ? "image://svg/" + color + "/" + name : "";
+            return color.a > 0 && name.length > 0 ? `image://svg/${color}/${name}` : "";
         }
         sourceSize: control.UTIconButtonData.iconSize
         fillMode: Image.Pad

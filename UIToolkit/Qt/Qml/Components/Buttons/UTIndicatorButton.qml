@@ -19,9 +19,7 @@ UTButtonBase {
     //! A value of UTIndicatorBadgeEnum; with -1, the default, None and unknown ones there is no button to be seen.
     property int indicatorType: -1
 
-    function focusRingSettings(): var {
-        return { themeType: () => control.themeType };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, { themeType: () => control.themeType })
 
     visible: IndicatorBadges.kindOf(indicatorType).icon.length > 0
     implicitWidth: 24

@@ -49,13 +49,11 @@ UTButtonBase {
     //! Whether the line can be used; its frame is faint if not.
     property bool multiLineEnabled: enabled
 
-    function focusRingSettings(): var {
-        return {
-            innerFocusBorder: () => control.innerFocusBorder,
-            designatedParent: () => control.focusDesignatedParent,
-            themeType: () => control.themeType
-        };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, {
+        innerFocusBorder: () => control.innerFocusBorder,
+        designatedParent: () => control.focusDesignatedParent,
+        themeType: () => control.themeType
+    })
 
     UTMultilinePillButtonData.themeType: themeType
     UTMultilinePillButtonData.style: buttonStyle

@@ -44,13 +44,11 @@ UTButtonBase {
     property bool isIconAlignText: false
     readonly property bool isTruncated: isTextEilded === true
 
-    function focusRingSettings(): var {
-        return {
-            innerFocusBorder: () => control.innerFocusBorder,
-            designatedParent: () => control.focusDesignatedParent,
-            themeType: () => control.focusRingThemeType
-        };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, {
+        innerFocusBorder: () => control.innerFocusBorder,
+        designatedParent: () => control.focusDesignatedParent,
+        themeType: () => control.focusRingThemeType
+    })
 
     UTPillButtonData.themeType: themeType
     UTPillButtonData.eventData: UTEventData { followsItem: true }

@@ -30,9 +30,7 @@ UTButtonBase {
     //! Keeps the label on one line and elides it where it does not fit; the tool tip then shows all of it.
     property bool singleLine: false
 
-    function focusRingSettings(): var {
-        return { isRectangle: true, cornerRadius: () => priv.cornerRadius, themeType: () => control.themeType };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, { isRectangle: true, cornerRadius: () => priv.cornerRadius, themeType: () => control.themeType })
 
     UTRectangleButtonData.size: buttonSize
 

@@ -20,9 +20,7 @@ UTButtonBase {
     //! The same as checked.
     property alias isChecked: control.checked
 
-    function focusRingSettings(): var {
-        return { isRectangle: true, cornerRadius: 4, themeType: () => control.themeType };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, { isRectangle: true, cornerRadius: 4, themeType: () => control.themeType })
 
     implicitWidth: 32
     implicitHeight: 32

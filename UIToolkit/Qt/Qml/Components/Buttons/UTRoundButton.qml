@@ -39,14 +39,12 @@ UTButtonBase {
     //! The focus ring's rectangle, in the button's coordinates; empty for the button's own.
     property rect customFocusRect
 
-    function focusRingSettings(): var {
-        return {
-            innerFocusBorder: () => control.innerFocusBorder,
-            designatedParent: () => control.focusDesignatedParent,
-            themeType: () => control.focusRingThemeType,
-            customRect: () => control.customFocusRect
-        };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, {
+        innerFocusBorder: () => control.innerFocusBorder,
+        designatedParent: () => control.focusDesignatedParent,
+        themeType: () => control.focusRingThemeType,
+        customRect: () => control.customFocusRect
+    })
 
     UTRoundButtonData.themeType: themeType
     UTRoundButtonData.eventData: UTEventData { followsItem: true }
@@ -63,7 +61,7 @@ UTButtonBase {
         source: {
             const data = control.UTRoundButtonData;
             const color = data.iconColorData.color;
-            return color.a > 0 && control.buttonIcon.length > 0 && data.iconSize.width > 0 ? "image://svg/" + color + "/" + control.buttonIcon : "";
+            return color.a > 0 && control.buttonIcon.length > 0 && data.iconSize.width > 0 ? `image://svg/${color}/${control.buttonIcon}` : "";
         }
         sourceSize: control.UTRoundButtonData.iconSize
         fillMode: Image.Pad

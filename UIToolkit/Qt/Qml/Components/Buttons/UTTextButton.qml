@@ -34,14 +34,12 @@ UTButtonBase {
     //! In pixels.
     property int tooltipMaxWidth: 216
 
-    function focusRingSettings(): var {
-        return {
-            isRectangle: true,
-            cornerRadius: () => priv.cornerRadius,
-            designatedParent: () => control.designatedParent,
-            themeType: () => control.themeType
-        };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, {
+        isRectangle: true,
+        cornerRadius: () => priv.cornerRadius,
+        designatedParent: () => control.designatedParent,
+        themeType: () => control.themeType
+    })
 
     UTTextButtonData.colorStyle: colorStyle
     UTTextButtonData.sizeStyle: sizeStyle

@@ -24,17 +24,15 @@ UTButtonBase {
     //! Whether the button itself hosts its focus ring, as in a row that scrolls, instead of its top-most ancestor.
     property bool isDesignatedParent: false
 
-    function focusRingSettings(): var {
-        return {
-            innerFocusBorder: () => outline.innerFocusBorder,
-            isRectangle: () => outline.isRectangle,
-            cornerRadius: () => outline.cornerRadius,
-            customRect: () => outline.customRect,
-            rectangularCornerMask: () => outline.rectangularCornerMask,
-            designatedParent: () => outline.designatedParent,
-            themeType: () => control.themeType
-        };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, {
+        innerFocusBorder: () => outline.innerFocusBorder,
+        isRectangle: () => outline.isRectangle,
+        cornerRadius: () => outline.cornerRadius,
+        customRect: () => outline.customRect,
+        rectangularCornerMask: () => outline.rectangularCornerMask,
+        designatedParent: () => outline.designatedParent,
+        themeType: () => control.themeType
+    })
 
     //! The colour of the set \a name for the state of the button.
     function stateColor(name: string): color {

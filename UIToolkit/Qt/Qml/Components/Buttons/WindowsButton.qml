@@ -25,9 +25,7 @@ UTButtonBase {
     //! A value of WindowsButton.ButtonType; an unknown one shows nothing.
     property int buttonType: WindowsButton.ButtonType.Minimize
 
-    function focusRingSettings(): var {
-        return { isRectangle: true, cornerRadius: 0, innerFocusBorder: true, themeType: () => control.themeType };
-    }
+    onFocusRingWanted: settings => Object.assign(settings, { isRectangle: true, cornerRadius: 0, innerFocusBorder: true, themeType: () => control.themeType })
 
     implicitWidth: 46
     implicitHeight: 32

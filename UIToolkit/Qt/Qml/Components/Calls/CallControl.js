@@ -76,7 +76,7 @@ function makeRightHalf(control, left, metrics, corner) {
         activeFocusOnTab: () => left.activeFocusOnTab,
         squareCorners: corner.TopLeft | corner.BottomLeft,
         themeType: () => control.themeType,
-        textColorSet: () => control.textColorSet,
+        textColorSet: () => metrics.textColorSet,
         washColorSetName: () => wash(isOneThing() || control.rightChecked),
         iconSize: () => metrics.rightIconSize,
         startPadding: () => metrics.rightSideLeftPadding,

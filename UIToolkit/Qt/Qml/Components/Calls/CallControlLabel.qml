@@ -29,7 +29,7 @@ Text {
     visible: isShown
     text: control.text
     font: control.UTCallControlButtonData.font
-    color: ThemeUtils.getColor(control.leftState, control.textColorSet)
+    color: ThemeUtils.getColor(control.leftState, control.UTCallControlButtonData.textColorSet)
     elide: Text.ElideRight
     verticalAlignment: Text.AlignVCenter
 

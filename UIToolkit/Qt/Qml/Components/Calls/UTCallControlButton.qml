@@ -17,7 +17,6 @@
     \endqml
 */
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 import UIToolkitQml_Private 1.0
 import UIToolkitQml_Private_Data 1.0
@@ -87,18 +86,17 @@ KFrame {
     property var ground: null
     // Whose state the left half shows; null while it has not left its state of rest.
     property var leftState: null
-    // Of the colour of everything that lies on the pill.
-    readonly property kColorSet textColorSet: ThemeManager.globalTheme, App.getColorSet(UTCallControlButtonData.textColorSetName, themeType)
 
     signal leftClicked()
     signal rightClicked()
     signal leftToggled()
     signal rightToggled()
 
+    UTCallControlButtonData.themeType: themeType
     UTCallControlButtonData.metricsFollowType: true
     UTCallControlButtonData.buttonType: UTCallControlButtonEnum.Round
 
-    radius: height / 2
+    radius: 1000 // cut down to what the height allows
     controlsTarget: null // at rest, which most buttons always are: see the script's follow()
 
     // Handlers in place of bindings: most buttons keep the first values, and have nothing but an icon.
@@ -142,13 +140,11 @@ KFrame {
 
         property int squareCorners: 0
 
-        function focusRingSettings(): var {
-            return {
-                rectangularCornerMask: () => leftHalf.squareCorners,
-                customRect: () => Script.ringOfHalf(leftHalf),
-                themeType: () => control.themeType
-            };
-        }
+        onFocusRingWanted: settings => Object.assign(settings, {
+            rectangularCornerMask: () => leftHalf.squareCorners,
+            customRect: () => Script.ringOfHalf(leftHalf),
+            themeType: () => control.themeType
+        })
 
         anchors.fill: parent
         implicitWidth: 0 // the pill's business
@@ -160,7 +156,7 @@ KFrame {
             source: {
                 const name = leftHalf.checked && control.leftCheckedIcon.length > 0 ? control.leftCheckedIcon : control.leftIcon;
                 return name.length === 0 ? "" : control.isLeftBitmap ? "qrc:/Resources/" + name
-                    : "image://svg/" + ThemeUtils.getColor(control.leftState, control.textColorSet) + "/" + name;
+                    : `image://svg/${ThemeUtils.getColor(control.leftState, control.UTCallControlButtonData.textColorSet)}/${name}`;
             }
             sourceSize: control.UTCallControlButtonData.leftIconSize
             fillMode: Image.Pad // in the middle

@@ -17,5 +17,5 @@ KSvgImage {
     readonly property color sourceColor: svgColorSetName.length > 0 ? ThemeUtils.getColor(controlsTarget, svgColorSet) : svgColor
 
     height: 12
-    source: svgName.length > 0 ? "image://svg/%1/%2".arg(sourceColor).arg(svgName) : ""
+    source: svgName.length > 0 ? `image://svg/${sourceColor}/${svgName}` : ""
 }

@@ -34,7 +34,7 @@ KSvgImage {
     source: {
         if (imagePrefixName.length === 0)
             return "";
-        return svgColorSetName.length > 0 ? "image://svg/%1/%2".arg(sourceColor).arg(frameName) : "qrc:/Resources/%1.svg".arg(frameName);
+        return svgColorSetName.length > 0 ? `image://svg/${sourceColor}/${frameName}` : "qrc:/Resources/%1.svg".arg(frameName);
     }
 
     NumberAnimation on currentFrame {

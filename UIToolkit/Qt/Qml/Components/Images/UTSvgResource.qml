@@ -35,7 +35,7 @@ KImage {
         // Numbers, because looking up an enumerator costs more than all the rest. An unknown one stands for None.
         const type = imagePrefixType >= 1 && imagePrefixType <= 4 ? imagePrefixType : 0;
         if ((type === 0 || type === 4) && svgName.length > 0 && svgColor.a > 0) // Svg
-            return "image://svg/" + svgColor + "/" + svgName;
+            return `image://svg/${svgColor}/${svgName}`;
         if ((type === 0 || type === 1) && pngName.length > 0) // Png
             return "qrc:/Resources/" + pngName;
         if (type === 2 && svgName.length > 0) // Emoji

@@ -4,6 +4,8 @@
 
 #include <App.h>
 #include <KFont.h>
+#include <KThemeUtils.h>
+#include <ThemeManager.h>
 
 #include <QHash>
 #include <QLatin1StringView>
@@ -143,6 +145,9 @@ UTCallControlButtonData::UTCallControlButtonData(QObject *attachee)
     connect(this, &Self::buttonStyleChanged, this, &Self::updateButtonStyle);
     connect(this, &Self::buttonStateChanged, this, &Self::updateButtonStyle);
     connect(this, &Self::showTextChanged, this, &Self::onShowTextChanged);
+    connect(this, &Self::textColorSetNameChanged, this, &Self::updateTextColorSet);
+    connect(this, &Self::themeTypeChanged, this, &Self::updateTextColorSet);
+    connect(ThemeManager::instance(), &ThemeManager::globalThemeChanged, this, &Self::updateTextColorSet);
     connect(App::instance(), &App::textScaleChanged, this, &Self::updateFont);
     updateButtonType();
     updateButtonSize();
@@ -222,6 +227,13 @@ void UTCallControlButtonData::updatePanelPadding()
     const auto row = metricTable.constFind(m_showText ? Panel : Round);
     setLeftSideLeftPadding(row->leftSideLeftPadding[size]);
     setLeftSideRightPadding(row->leftSideRightPadding[size]);
+}
+
+void UTCallControlButtonData::updateTextColorSet()
+{
+    set(m_textColorSet,
+        KThemeUtils::getColorSet(m_textColorSetName.toUtf8(), KThemeUtils::stringToThemeType(m_themeType)),
+        &Self::textColorSetChanged);
 }
 
 void UTCallControlButtonData::updateButton()

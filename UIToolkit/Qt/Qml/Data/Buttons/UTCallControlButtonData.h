@@ -3,6 +3,8 @@
 #include "KObject.h"
 #include "UTCallControlButtonEnum.h"
 
+#include <KColorSet.h>
+
 #include <QFont>
 #include <QPointer>
 #include <QQuickItem>
@@ -73,6 +75,10 @@ class UTCallControlButtonData : public KObject
     Q_PROPERTY(bool canShowBadge READ canShowBadge WRITE setCanShowBadge NOTIFY canShowBadgeChanged FINAL)
 
     using Self = UTCallControlButtonData;
+    //! Theme type of the text, for example "global" or "dark"; empty by default.
+    Q_PROPERTY(QString themeType READ themeType WRITE setThemeType NOTIFY themeTypeChanged FINAL)
+    //! The colours of everything that lies on the button.
+    Q_PROPERTY(KColorSet textColorSet READ textColorSet NOTIFY textColorSetChanged FINAL)
     //! Whether a change of the type has the metrics follow at once; the component's to say, false by default.
     Q_PROPERTY(
         bool metricsFollowType READ metricsFollowType WRITE setMetricsFollowType NOTIFY metricsFollowTypeChanged FINAL)
@@ -116,6 +122,8 @@ public:
     int rightSideRightPadding() const { return m_rightSideRightPadding; }
     QSize rightIconSize() const { return m_rightIconSize; }
     bool canShowBadge() const { return m_canShowBadge; }
+    QString themeType() const { return m_themeType; }
+    KColorSet textColorSet() const { return m_textColorSet; }
     bool metricsFollowType() const { return m_metricsFollowType; }
     qreal labelRoom() const { return m_labelRoom; }
     qreal labelHeight() const { return m_labelHeight; }
@@ -169,6 +177,7 @@ public:
     }
     void setRightIconSize(const QSize &size) { set(m_rightIconSize, size, &Self::rightIconSizeChanged); }
     void setCanShowBadge(bool can) { set(m_canShowBadge, can, &Self::canShowBadgeChanged); }
+    void setThemeType(const QString &themeType) { set(m_themeType, themeType, &Self::themeTypeChanged); }
     void setMetricsFollowType(bool follow) { set(m_metricsFollowType, follow, &Self::metricsFollowTypeChanged); }
     void setLabelRoom(qreal room) { set(m_labelRoom, room, &Self::labelRoomChanged); }
     void setLabelHeight(qreal height) { set(m_labelHeight, height, &Self::labelHeightChanged); }
@@ -208,6 +217,8 @@ Q_SIGNALS:
     void rightSideRightPaddingChanged();
     void rightIconSizeChanged();
     void canShowBadgeChanged();
+    void themeTypeChanged();
+    void textColorSetChanged();
     void metricsFollowTypeChanged();
     void labelRoomChanged();
     void labelHeightChanged();
@@ -248,6 +259,7 @@ private:
 
     void updateFont();
     void updatePanelPadding();
+    void updateTextColorSet();
     void updateButton();
     void giveButton(const char *property, QString &given, const QString &name);
 
@@ -259,6 +271,8 @@ private:
     QString m_checkedBackgroundColorSetName;
     QString m_borderColorSetName;
     QString m_textColorSetName;
+    QString m_themeType;
+    KColorSet m_textColorSet;
     QFont m_font;
     QSize m_leftIconSize = QSize(0, 0);
     QSize m_rightIconSize = QSize(0, 0);

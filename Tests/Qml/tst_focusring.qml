@@ -2,215 +2,34 @@ import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
 
-Item {
-    id: root
+ToolkitTestCase {
+    id: testCase
 
-    width: 400
-    height: 300
+    name: "FocusRing"
+
+    property var ring
 
     Item {
         id: outer
 
-        x: 20
-        y: 30
-        z: 4
-        width: 200
-        height: 150
+        x: 20; y: 30; z: 4; width: 200; height: 150
 
         Item {
             id: inner
 
-            x: 10
-            y: 15
-            width: 150
-            height: 100
+            x: 10; y: 15; width: 150; height: 100
             clip: true
 
-            Item {
-                id: focusable
-
-                x: 5
-                y: 6
-                width: 80
-                height: 30
-                activeFocusOnTab: true
-            }
+            Item { id: focusable; x: 5; y: 6; width: 80; height: 30; activeFocusOnTab: true }
         }
     }
-
-    Item {
-        id: other
-
-        activeFocusOnTab: true
-    }
-
-    Item {
-        id: host
-
-        x: 3
-        y: 4
-        width: 390
-        height: 290
-    }
-
-    FocusScope {
-        id: focusScope
-
-        x: 200
-        y: 200
-        width: 50
-        height: 30
-    }
-
-    ToolkitTestCase {
-        name: "FocusRing"
-
-        property var ring
-
-        function init() {
-            failOnWarning(/.?/);
-            other.forceActiveFocus();
-            ring = make("KCustomFocusItem", {}, focusable);
-        }
-
-        function topMost(): Item {
-            let item = root;
-            while (item.parent)
-                item = item.parent;
-            return item;
-        }
-
-        // What holds the canvas in parentItem, or null.
-        function loaderIn(parentItem: Item): Item {
-            return Array.from(parentItem.children).find(child => child.item && child.item instanceof KFocusItemCanvas) ?? null;
-        }
-
-        function show() {
-            focusable.forceActiveFocus();
-            App.isKeyboardFocus = true;
-            verify(ring.visible);
-        }
-
-        // Compares the rectangle of the ring that shows in parentItem, in root's coordinates.
-        function compareRing(expected: rect, parentItem: var): void {
-            const loader = loaderIn(parentItem ?? topMost());
-            verify(loader && loader.visible);
-            compareProperties(loader, { "item.width": loader.width, "item.height": loader.height });
-            const position = loader.parent.mapToItem(root, loader.x, loader.y);
-            compare(Qt.rect(position.x, position.y, loader.width, loader.height), expected);
-        }
-
-        function test_defaults() {
-            compareProperties(ring, { innerFocusBorder: false, isRectangle: false, isSemicircle: true, cornerRadius: 8, extraSpace: 5 });
-            compareProperties(ring, { designatedParent: undefined, isExtraSmall: undefined, rectangularCornerMask: 0, isCustomRect: false });
-            ring.isRectangle = true;
-            verify(!ring.isSemicircle);
-            // By their full names: unscoped, Item's transform origins come first.
-            const corners = { None: 0, TopLeft: 1, TopRight: 2, BottomLeft: 4, BottomRight: 8 };
-            compareProperties(KBasicFocusItem.RectangularCorner, corners);
-            compareProperties(DrawUtils.RectangularCorners, corners);
-        }
-
-        function test_onlyForKeyboardFocus() {
-            App.isKeyboardFocus = true;
-            verify(!ring.visible, "no focus");
-            mousePress(focusable);
-            focusable.forceActiveFocus();
-            mouseRelease(focusable);
-            verify(!ring.visible, "focus gained by mouse");
-            compare(loaderIn(topMost()), null);
-
-            App.isKeyboardFocus = true;
-            verify(ring.visible);
-            verify(loaderIn(topMost()));
-
-            other.forceActiveFocus();
-            verify(!ring.visible);
-            compare(loaderIn(topMost()), null, "the ring is taken down");
-            compareProperties(ring, { "children.length": 1, "children.0.item": null });
-
-            show();
-            outer.visible = false;
-            compare(loaderIn(topMost()), null, "hidden with its ancestor");
-            outer.visible = true;
-        }
-
-        function test_focusedFromTheStart() {
-            App.isKeyboardFocus = true;
-            focusScope.forceActiveFocus();
-            const late = make("KCustomFocusItem", {}, focusScope);
-            compareRing(Qt.rect(195, 195, 60, 40));
-            late.destroy();
-            tryVerify(() => !loaderIn(topMost()));
-        }
-
-        function test_followsItemAndAncestors() {
-            show();
-            compareRing(Qt.rect(30, 46, 90, 40));
-            for (const [item, property, value, expected] of [
-                [focusable, "width", 120, Qt.rect(30, 46, 130, 40)], [focusable, "height", 40, Qt.rect(30, 46, 90, 50)],
-                [inner, "y", 40, Qt.rect(30, 71, 90, 40)], [outer, "x", 60, Qt.rect(70, 46, 90, 40)]
-            ]) {
-                const before = item[property];
-                item[property] = value;
-                compareRing(expected);
-                item[property] = before;
-                compareRing(Qt.rect(30, 46, 90, 40));
-            }
-
-            // Hidden it does not follow, and shows in the right place all the same.
-            App.isKeyboardFocus = false;
-            outer.x = 0;
-            App.isKeyboardFocus = true;
-            compareRing(Qt.rect(10, 46, 90, 40));
-            outer.x = 20;
-        }
-
-        function test_followsItsSettings() {
-            show();
-            ring.innerFocusBorder = true;
-            compareRing(Qt.rect(35, 51, 80, 30));
-            ring.innerFocusBorder = false;
-            compareRing(Qt.rect(30, 46, 90, 40));
-            ring.customRect = Qt.rect(10, 2, 30, 20);
-            compareRing(Qt.rect(40, 48, 40, 30));
-            ring.customRect = Qt.rect(0, 0, 0, 8);
-            verify(ring.isCustomRect);
-            compareRing(Qt.rect(30, 46, 10, 18));
-            ring.customRect = Qt.rect(0, 0, 0, 0);
-            verify(!ring.isCustomRect);
-            compareRing(Qt.rect(30, 46, 90, 40));
-        }
-
-        function test_designatedParent() {
-            ring.designatedParent = host;
-            show();
-            compare(loaderIn(topMost()), null);
-            for (const parentItem of [host, outer, undefined, root]) {
-                ring.designatedParent = parentItem;
-                compareRing(Qt.rect(30, 46, 90, 40), parentItem);
-            }
-            const siblings = Array.from(root.children);
-            const loader = loaderIn(root);
-            verify(loader.z === outer.z && siblings.indexOf(loader) > siblings.indexOf(outer), "above the branch that it belongs to");
-        }
-    }
+    Item { id: other; activeFocusOnTab: true }
+    Item { id: host; x: 3; y: 4; width: 390; height: 290 }
+    FocusScope { id: focusScope; x: 200; y: 200; width: 50; height: 30 }
 
     // The settings may be mirrored with what they lie in.
-    Item {
-        id: mirrored
-
-        LayoutMirroring.childrenInherit: true
-    }
-
-    Item {
-        id: blank
-
-        x: 100
-        y: 200
-        width: 90
-        height: 40
-    }
+    Item { id: mirrored; LayoutMirroring.childrenInherit: true }
+    Item { id: blank; x: 100; y: 200; width: 90; height: 40 }
 
     // Draws the outlines with the drawing library alone, to compare with what the ring's canvas shows.
     Component {
@@ -235,77 +54,177 @@ Item {
         }
     }
 
-    ToolkitTestCase {
-        name: "FocusCanvas"
+    function init() {
+        failOnWarning(/.?/);
+        other.forceActiveFocus();
+        ring = make("KCustomFocusItem", {}, focusable);
+    }
 
-        // A canvas with those settings. grabImage takes an item's position for one in the window, so only the canvas
-        // has one other than (0, 0).
-        function canvasOf(values: var): var {
-            const settings = make("KBasicFocusItem", values, mirrored);
-            return make("KFocusItemCanvas", { focusItem: settings, x: 250, y: 200, width: 90, height: 40 }, settings);
+    function cleanup() {
+        ThemeManager.theme = "light";
+        App.isKeyboardFocus = false;
+        mirrored.LayoutMirroring.enabled = false;
+    }
+
+    function topMost(): Item {
+        let item = testCase;
+        while (item.parent)
+            item = item.parent;
+        return item;
+    }
+
+    // What holds the canvas in parentItem, or null.
+    function loaderIn(parentItem: Item): Item {
+        return Array.from(parentItem.children).find(child => child.item && child.item instanceof KFocusItemCanvas) ?? null;
+    }
+
+    function show() {
+        focusable.forceActiveFocus();
+        App.isKeyboardFocus = true;
+        verify(ring.visible);
+    }
+
+    // Compares the rectangle of the ring that shows in parentItem, in the test case's coordinates.
+    function compareRing(expected: rect, parentItem: var): void {
+        const loader = loaderIn(parentItem ?? topMost());
+        verify(loader && loader.visible);
+        compareProperties(loader, { "item.width": loader.width, "item.height": loader.height });
+        const position = loader.parent.mapToItem(testCase, loader.x, loader.y);
+        compare(Qt.rect(position.x, position.y, loader.width, loader.height), expected);
+    }
+
+    function test_onlyForKeyboardFocus() {
+        App.isKeyboardFocus = true;
+        verify(!ring.visible, "no focus");
+        mousePress(focusable);
+        focusable.forceActiveFocus();
+        mouseRelease(focusable);
+        verify(!ring.visible, "focus gained by mouse");
+        compare(loaderIn(topMost()), null);
+
+        App.isKeyboardFocus = true;
+        verify(ring.visible);
+        verify(loaderIn(topMost()));
+
+        other.forceActiveFocus();
+        verify(!ring.visible);
+        compare(loaderIn(topMost()), null, "the ring is taken down");
+        compareProperties(ring, { "children.length": 1, "children.0.item": null });
+
+        show();
+        outer.visible = false;
+        compare(loaderIn(topMost()), null, "hidden with its ancestor");
+        outer.visible = true;
+    }
+
+    function test_focusedFromTheStart() {
+        App.isKeyboardFocus = true;
+        focusScope.forceActiveFocus();
+        const late = make("KCustomFocusItem", {}, focusScope);
+        compareRing(Qt.rect(195, 195, 60, 40));
+        late.destroy();
+        tryVerify(() => !loaderIn(topMost()));
+    }
+
+    function test_follows_data() {
+        const none = Qt.rect(0, 0, 0, 0);
+        return table(["tag", "item", "property", "before", "after", "expected"], [
+            ["width", focusable, "width", 80, 120, Qt.rect(30, 46, 130, 40)],
+            ["height", focusable, "height", 30, 40, Qt.rect(30, 46, 90, 50)],
+            ["parent", inner, "y", 15, 40, Qt.rect(30, 71, 90, 40)],
+            ["ancestor", outer, "x", 20, 60, Qt.rect(70, 46, 90, 40)],
+            ["inside", null, "innerFocusBorder", false, true, Qt.rect(35, 51, 80, 30)],
+            ["rectangle of its own", null, "customRect", none, Qt.rect(10, 2, 30, 20), Qt.rect(40, 48, 40, 30)],
+            ["height of its own", null, "customRect", none, Qt.rect(0, 0, 0, 8), Qt.rect(30, 46, 10, 18)]
+        ]);
+    }
+
+    function test_follows(data) {
+        const item = data.item ?? ring;
+        show();
+        for (const hides of [false, true]) {
+            compareRing(Qt.rect(30, 46, 90, 40));
+            // Hidden it does not follow, and shows in the right place all the same.
+            App.isKeyboardFocus = !hides;
+            item[data.property] = data.after;
+            App.isKeyboardFocus = true;
+            compareRing(data.expected);
+            item[data.property] = data.before;
         }
+    }
 
-        function cleanup() {
-            ThemeManager.theme = "light";
-            mirrored.LayoutMirroring.enabled = false;
+    function test_designatedParent() {
+        ring.designatedParent = host;
+        show();
+        compare(loaderIn(topMost()), null);
+        for (const parentItem of [host, outer, undefined, testCase]) {
+            ring.designatedParent = parentItem;
+            compareRing(Qt.rect(30, 46, 90, 40), parentItem);
         }
+        const siblings = Array.from(testCase.children);
+        const loader = loaderIn(testCase);
+        verify(loader.z === outer.z && siblings.indexOf(loader) > siblings.indexOf(outer), "above the branch that it belongs to");
+    }
 
-        function test_outlines_data() {
-            const left = 1 | 4, right = 2 | 8;
-            const around = [0, 2, 4];
-            const inside = [-5, -3, -1];
-            const [pill, rectangle, mixed] = ["drawRoundedSidesOutline", "drawRoundedCornerRectangleOutline", "drawRectangularAndRoundCornerOutline"];
-            return table(["tag", "draw", "values", "offsets", "radii", "mask"], [
-                ["pill", pill, {}, around],
-                ["inner pill", pill, { innerFocusBorder: true }, inside],
-                // Inner line: 8 - 4, outer line: 8 - 0.
-                ["rectangle", rectangle, { isRectangle: true }, around, [4, 6, 8]],
-                ["inner rectangle", rectangle, { isRectangle: true, innerFocusBorder: true, cornerRadius: 6 }, inside, [7, 9, 11]],
-                ["extra small", rectangle, { isRectangle: true, isExtraSmall: true }, around, [-2, 0, 2]],
-                ["not extra small", rectangle, { isRectangle: true, isExtraSmall: false }, around, [0, 2, 4]],
-                ["semicircle with square corners", mixed, { rectangularCornerMask: left }, around, [20, 18, 18], left],
-                ["square corners", mixed, { rectangularCornerMask: left, isSemicircle: false, cornerRadius: 12 }, around, [12, 10, 10], left],
-                ["mirrored", mixed, { rectangularCornerMask: left, isSemicircle: false }, around, [8, 6, 6], right]
-            ]);
-        }
+    // A canvas with those settings. grabImage takes an item's position for one in the window, so only the canvas
+    // has one other than (0, 0).
+    function canvasOf(values: var): var {
+        const settings = make("KBasicFocusItem", values, mirrored);
+        return make("KFocusItemCanvas", { focusItem: settings, x: 250, y: 200, width: 90, height: 40 }, settings);
+    }
 
-        function test_outlines(data) {
-            // On the test's white window the light theme's inner line would not be seen.
-            ThemeManager.theme = "dark";
-            mirrored.LayoutMirroring.enabled = data.tag === "mirrored";
-            const canvas = canvasOf(data.values);
-            const reference = createTemporaryObject(referenceComponent, root, { row: data });
-            tryVerify(() => !grabImage(reference).equals(grabImage(blank)));
-            tryVerify(() => grabImage(canvas).equals(grabImage(reference)));
-        }
+    function test_outlines_data() {
+        const { TopLeft, BottomLeft, TopRight, BottomRight } = DrawUtils.RectangularCorners;
+        const left = TopLeft | BottomLeft, right = TopRight | BottomRight;
+        const around = [0, 2, 4];
+        const inside = [-5, -3, -1];
+        const [pill, rectangle, mixed] = ["drawRoundedSidesOutline", "drawRoundedCornerRectangleOutline", "drawRectangularAndRoundCornerOutline"];
+        return table(["tag", "draw", "values", "offsets", "radii", "mask"], [
+            ["pill", pill, {}, around],
+            ["inner pill", pill, { innerFocusBorder: true }, inside],
+            // Inner line: 8 - 4, outer line: 8 - 0.
+            ["rectangle", rectangle, { isRectangle: true }, around, [4, 6, 8]],
+            ["inner rectangle", rectangle, { isRectangle: true, innerFocusBorder: true, cornerRadius: 6 }, inside, [7, 9, 11]],
+            ["extra small", rectangle, { isRectangle: true, isExtraSmall: true }, around, [-2, 0, 2]],
+            ["not extra small", rectangle, { isRectangle: true, isExtraSmall: false }, around, [0, 2, 4]],
+            ["semicircle with square corners", mixed, { rectangularCornerMask: left }, around, [20, 18, 18], left],
+            ["square corners", mixed, { rectangularCornerMask: left, isSemicircle: false, cornerRadius: 12 }, around, [12, 10, 10], left],
+            ["mirrored", mixed, { rectangularCornerMask: left, isSemicircle: false }, around, [8, 6, 6], right]
+        ]);
+    }
 
-        function test_repaintsWithThemeAndSettings() {
-            const canvas = canvasOf({});
-            const middle = theme => App.getColorSet("global-focus-outline", theme).normal;
+    function test_outlines(data) {
+        // On the test's white window the light theme's inner line would not be seen.
+        ThemeManager.theme = "dark";
+        mirrored.LayoutMirroring.enabled = data.tag === "mirrored";
+        const canvas = canvasOf(data.values);
+        const reference = createTemporaryObject(referenceComponent, testCase, { row: data });
+        tryVerify(() => !grabImage(reference).equals(grabImage(blank)));
+        tryVerify(() => grabImage(canvas).equals(grabImage(reference)));
+    }
+
+    function test_repaintsWithThemeAndSettings() {
+        const canvas = canvasOf({});
+        const settings = canvas.focusItem;
+        const middle = theme => App.getColorSet("global-focus-outline", theme).normal;
+        for (const [theme, themeType, expected] of [
+            ["light", "global", "light"], ["dark", "global", "dark"], ["highContrast", "global", "highContrast"],
+            ["highContrast", "dark", "dark"], ["light", "global", "light"]
+        ]) {
+            ThemeManager.theme = theme;
+            settings.themeType = themeType;
+            compare(canvas.innerColor, App.getColorSet("global-focus-innerline", expected).normal);
+            fuzzyCompare(canvas.outerColor.a, theme === "highContrast" ? 1 : 0.3, 0.01);
             // The middle line lies on the rows 1 and 2.
-            const paints = color => tryVerify(() => Qt.colorEqual(grabImage(canvas).pixel(45, 2), color));
-            paints(middle("light"));
-
-            ThemeManager.theme = "dark";
-            compareProperties(canvas, { middleColor: middle("dark"), innerColor: App.getColorSet("global-focus-innerline", "dark").normal });
-            fuzzyCompare(canvas.outerColor.a, 0.3, 0.01);
-            paints(middle("dark"));
-
-            ThemeManager.theme = "highContrast";
-            compare(canvas.outerColor, middle("highContrast"), "in full in high contrast");
-            canvas.focusItem.themeType = "dark";
-            compare(canvas.middleColor, middle("dark"));
-            ThemeManager.theme = "light";
-            canvas.focusItem.themeType = "global";
-            paints(middle("light"));
-
-            const pill = grabImage(canvas);
-            canvas.focusItem.isRectangle = true;
-            tryVerify(() => !grabImage(canvas).equals(pill));
-            canvas.visible = false;
-            canvas.focusItem.isRectangle = false;
-            canvas.visible = true;
-            tryVerify(() => grabImage(canvas).equals(pill));
+            tryVerify(() => Qt.colorEqual(grabImage(canvas).pixel(45, 2), middle(expected)), undefined, "%1, %2".arg(theme).arg(themeType));
         }
+
+        const before = grabImage(canvas);
+        settings.isRectangle = true;
+        tryVerify(() => !grabImage(canvas).equals(before));
+        canvas.visible = false;
+        settings.isRectangle = false;
+        canvas.visible = true;
+        tryVerify(() => grabImage(canvas).equals(before));
     }
 }

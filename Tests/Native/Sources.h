@@ -28,6 +28,18 @@ inline QStringList captures(const QRegularExpression &pattern, const QString &te
     return list;
 }
 
+//! The types that the library's module lists, each with a file of its own name.
+inline QStringList listedTypes()
+{
+    const QString listing = text(QStringLiteral(UITOOLKIT_QML_DIR "/UIToolkitQml/qmldir"));
+    static const QRegularExpression entry(QStringLiteral("^(?:singleton )?(\\w+) 1\\.0 \\1\\.qml$"),
+                                          QRegularExpression::MultilineOption);
+    QStringList names = captures(entry, listing);
+    // Qt 6.4 lists internal types twice.
+    names.removeIf([&](const QString &name) { return listing.contains(QStringLiteral("\ninternal %1 ").arg(name)); });
+    return names;
+}
+
 //! Calls \a visit with path and text of every source file of the library and the gallery.
 template<typename Visitor>
 void visitAll(Visitor visit)

@@ -1,14 +1,13 @@
+#include "NativeTest.h"
+#include "Sources.h"
+
 #include <QDir>
-#include <QFile>
 #include <QHash>
 #include <QMetaMethod>
 #include <QMetaProperty>
-#include <QQmlComponent>
 #include <QQmlContext>
-#include <QQmlEngine>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 #include <private/qqmlmetatype_p.h>
 
@@ -18,9 +17,9 @@ namespace {
 
 const QStringList modules = {u"UIToolkitQml"_s, u"UIToolkitQml_Experimental"_s, u"UIToolkitQml_Private"_s,
                              u"UIToolkitQml_Private_Data"_s};
-const QString docsDir = QStringLiteral(UITOOLKIT_SOURCE_DIR "/Docs/api");
+const QString docsDir = Sources::path("Docs/api");
 // Registered names that cannot be created yet. A name may leave this list, and none may join it.
-const QString awaitedFile = QStringLiteral(UITOOLKIT_SOURCE_DIR "/Tests/Native/awaited.txt");
+const QString awaitedFile = Sources::path("Tests/Native/awaited.txt");
 
 // Stands in for native data that is not written yet.
 constexpr QByteArrayView placeholder = "AwaitedData";
@@ -31,10 +30,7 @@ const QHash<QString, QString> necessities = {{u"KFocusItemCanvas"_s, u"focusItem
 
 QStringList readLines(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return {};
-    QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    QStringList lines = Sources::text(path).split(u'\n', Qt::SkipEmptyParts);
     lines.removeIf([](const QString &line) { return line.startsWith(u'#'); });
     return lines;
 }
@@ -127,140 +123,110 @@ QString describeType(const QString &module, const QMetaObject *metaObject)
 
     Run with UITOOLKIT_RENEW_API=1 in the environment to write the interfaces down anew.
 */
-class tst_Types : public QObject
+class tst_Types : public NativeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void types_data();
-    void types();
-    void listsNameNothingElse();
+    void initTestCase()
+    {
+        create(m_engine, "import UIToolkitQml 1.0\nimport QtQml\nQtObject {}");
+        const QStringList awaited = readLines(awaitedFile);
+        m_awaited = QSet<QString>(awaited.begin(), awaited.end());
+        QVERIFY(m_awaited.contains(u"KSwitch"_s) && m_awaited.contains(u"KMessagingListView"_s));
+    }
+
+    void types_data()
+    {
+        const Table<QString, QString, bool, bool, const QMetaObject *> row{"module", "name", "creatable", "singleton",
+                                                                           "metaObject"};
+        QSet<QString> names;
+        for (const QQmlType &type : QQmlMetaType::qmlTypes()) {
+            const QString module = type.module();
+            const QString name = type.elementName();
+            if (!modules.contains(module) || name.isEmpty() || names.contains(name))
+                continue;
+            names << name;
+            row(name, module, name, type.isComposite() || type.isCreatable(), type.isSingleton(),
+                type.baseMetaObject());
+        }
+        // The rest is declared by the module's listing, and by that alone.
+        for (const QString &name : Sources::listedTypes()) {
+            if (!names.contains(name))
+                row(name, u"UIToolkitQml"_s, name, true, false, nullptr);
+        }
+    }
+
+    void types()
+    {
+        QFETCH(QString, module);
+        QFETCH(QString, name);
+        QFETCH(bool, creatable);
+        QFETCH(bool, singleton);
+        QFETCH(const QMetaObject *, metaObject);
+        m_seen << name;
+
+        std::unique_ptr<QObject> object;
+        QString error;
+        if (singleton) {
+            const int id = qmlTypeId(qPrintable(module), 1, 0, qPrintable(name));
+            auto *instance = m_engine.singletonInstance<QObject *>(id);
+            QVERIFY(instance);
+            metaObject = instance->metaObject();
+        } else if (creatable) {
+            object = tryCreate(module, name, &error);
+            if (m_awaited.contains(name)) {
+                QVERIFY2(!object, "exists now: take it off the list of awaited names");
+                QVERIFY2(error.contains("No such file"_L1), qPrintable(error));
+                return;
+            }
+            QVERIFY2(object, qPrintable(error));
+            metaObject = object->metaObject();
+        } else if (metaObject && placeholder == metaObject->className()) {
+            QVERIFY2(m_awaited.contains(name), "not written yet, and not on the list of awaited names");
+            return;
+        }
+        QVERIFY(!m_awaited.contains(name));
+        QVERIFY(metaObject);
+
+        const QString description = describeType(module, metaObject);
+        QFile file(u"%1/%2.txt"_s.arg(docsDir, name));
+        if (qEnvironmentVariableIsSet("UITOOLKIT_RENEW_API")) {
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            QVERIFY(file.write(description.toUtf8()) > 0);
+            return;
+        }
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName() + " is missing"_L1));
+        QCOMPARE(description, QString::fromUtf8(file.readAll()));
+    }
+
+    void listsNameNothingElse()
+    {
+        QSet<QString> leftOver = m_awaited;
+        QVERIFY2(leftOver.subtract(m_seen).isEmpty(), qPrintable(leftOver.values().join(u' ')));
+        for (const QString &file : QDir(docsDir).entryList({u"*.txt"_s})) {
+            const QString name = file.chopped(4);
+            QVERIFY2(m_seen.contains(name) && !m_awaited.contains(name), qPrintable(file));
+        }
+    }
 
 private:
-    std::unique_ptr<QObject> create(const QString &module, const QString &name, QString *error);
+    std::unique_ptr<QObject> tryCreate(const QString &module, const QString &name, QString *error)
+    {
+        QQmlComponent component(&m_engine);
+        const QString companion = module == modules.first() ? QString() : u"import %1 1.0\n"_s.arg(module);
+        const QString source =
+            u"import Korvu 1.0\nimport UIToolkitQml 1.0\n%1%2 { %3 }"_s.arg(companion, name, necessities.value(name));
+        component.setData(source.toUtf8(), QUrl());
+        std::unique_ptr<QObject> object(component.isReady() ? component.create() : nullptr);
+        *error = component.errorString();
+        return object;
+    }
 
     QQmlEngine m_engine;
     QSet<QString> m_awaited;
     QSet<QString> m_seen;
 };
-
-void tst_Types::initTestCase()
-{
-    QQmlComponent component(&m_engine);
-    component.setData("import UIToolkitQml 1.0\nimport QtQml\nQtObject {}", QUrl());
-    std::unique_ptr<QObject> object(component.create());
-    QVERIFY2(object, qPrintable(component.errorString()));
-    const QStringList awaited = readLines(awaitedFile);
-    m_awaited = QSet<QString>(awaited.begin(), awaited.end());
-    QVERIFY(m_awaited.contains(u"KSwitch"_s) && m_awaited.contains(u"KMessagingListView"_s));
-}
-
-void tst_Types::init()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-}
-
-void tst_Types::types_data()
-{
-    QTest::addColumn<QString>("module");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("creatable");
-    QTest::addColumn<bool>("singleton");
-    QTest::addColumn<const QMetaObject *>("metaObject");
-
-    QSet<QString> names;
-    for (const QQmlType &type : QQmlMetaType::qmlTypes()) {
-        const QString module = type.module();
-        const QString name = type.elementName();
-        if (!modules.contains(module) || name.isEmpty() || names.contains(name))
-            continue;
-        names << name;
-        QTest::newRow(qPrintable(name)) << module << name << (type.isComposite() || type.isCreatable())
-                                        << type.isSingleton() << type.baseMetaObject();
-    }
-    // The rest is declared by the module's listing, and by that alone.
-    QFile listing(QStringLiteral(UITOOLKIT_QML_DIR "/UIToolkitQml/qmldir"));
-    QVERIFY(listing.open(QIODevice::ReadOnly));
-    static const QRegularExpression entry(u"^(\\w+) 1\\.0 (\\w+)\\.qml$"_s, QRegularExpression::MultilineOption);
-    const QString listed = QString::fromUtf8(listing.readAll());
-    QRegularExpressionMatchIterator it = entry.globalMatch(listed);
-    while (it.hasNext()) {
-        const QRegularExpressionMatch match = it.next();
-        QCOMPARE(match.captured(1), match.captured(2));
-        // Qt 6.4 lists internal types twice.
-        if (!names.contains(match.captured(1)) && !listed.contains(u"\ninternal %1 "_s.arg(match.captured(1)))) {
-            QTest::newRow(qPrintable(match.captured(1)))
-                << u"UIToolkitQml"_s << match.captured(1) << true << false << static_cast<const QMetaObject *>(nullptr);
-        }
-    }
-}
-
-std::unique_ptr<QObject> tst_Types::create(const QString &module, const QString &name, QString *error)
-{
-    QQmlComponent component(&m_engine);
-    const QString companion = module == modules.first() ? QString() : u"import %1 1.0\n"_s.arg(module);
-    const QString source =
-        u"import Korvu 1.0\nimport UIToolkitQml 1.0\n%1%2 { %3 }"_s.arg(companion, name, necessities.value(name));
-    component.setData(source.toUtf8(), QUrl());
-    std::unique_ptr<QObject> object(component.isReady() ? component.create() : nullptr);
-    *error = component.errorString();
-    return object;
-}
-
-void tst_Types::types()
-{
-    QFETCH(QString, module);
-    QFETCH(QString, name);
-    QFETCH(bool, creatable);
-    QFETCH(bool, singleton);
-    QFETCH(const QMetaObject *, metaObject);
-    m_seen << name;
-
-    std::unique_ptr<QObject> object;
-    QString error;
-    if (singleton) {
-        const int id = qmlTypeId(qPrintable(module), 1, 0, qPrintable(name));
-        auto *instance = m_engine.singletonInstance<QObject *>(id);
-        QVERIFY(instance);
-        metaObject = instance->metaObject();
-    } else if (creatable) {
-        object = create(module, name, &error);
-        if (m_awaited.contains(name)) {
-            QVERIFY2(!object, "exists now: take it off the list of awaited names");
-            QVERIFY2(error.contains("No such file"_L1), qPrintable(error));
-            return;
-        }
-        QVERIFY2(object, qPrintable(error));
-        metaObject = object->metaObject();
-    } else if (metaObject && placeholder == metaObject->className()) {
-        QVERIFY2(m_awaited.contains(name), "not written yet, and not on the list of awaited names");
-        return;
-    }
-    QVERIFY(!m_awaited.contains(name));
-    QVERIFY(metaObject);
-
-    const QString description = describeType(module, metaObject);
-    QFile file(u"%1/%2.txt"_s.arg(docsDir, name));
-    if (qEnvironmentVariableIsSet("UITOOLKIT_RENEW_API")) {
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        QVERIFY(file.write(description.toUtf8()) > 0);
-        return;
-    }
-    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName() + " is missing"_L1));
-    QCOMPARE(description, QString::fromUtf8(file.readAll()));
-}
-
-void tst_Types::listsNameNothingElse()
-{
-    QSet<QString> leftOver = m_awaited;
-    QVERIFY2(leftOver.subtract(m_seen).isEmpty(), qPrintable(leftOver.values().join(u' ')));
-    for (const QString &file : QDir(docsDir).entryList({u"*.txt"_s})) {
-        const QString name = file.chopped(4);
-        QVERIFY2(m_seen.contains(name) && !m_awaited.contains(name), qPrintable(file));
-    }
-}
 
 QTEST_MAIN(tst_Types)
 #include "tst_types.moc"

@@ -2,6 +2,7 @@
 
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QTest>
@@ -58,6 +59,34 @@ protected:
 
 protected Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+};
+
+//! A test of what happens in a window that is described in QML.
+class SceneTest : public NativeTest
+{
+    Q_OBJECT
+
+protected:
+    //! Shows the window that \a source describes and waits until it has the focus.
+    void open(const QByteArray &source)
+    {
+        m_window = create<QQuickWindow>(m_engine, source);
+        QVERIFY(activate(*m_window));
+    }
+
+    QQuickItem *item(const char *name) const { return m_window->findChild<QQuickItem *>(QLatin1StringView(name)); }
+
+    void focus(const char *name)
+    {
+        item(name)->forceActiveFocus();
+        QCOMPARE(m_window->activeFocusItem(), item(name));
+    }
+
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+
+protected Q_SLOTS:
+    void cleanup() { m_window.reset(); }
 };
 
 //! Takes text as any kind of literal.

@@ -6,7 +6,6 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QMimeData>
-#include <QQuickItem>
 #include <QQuickTextDocument>
 #include <QRandomGenerator>
 #include <QTextBlock>
@@ -52,7 +51,7 @@ const QSet<int> supportedCharProperties = {
 } // namespace
 
 //! Drives the compose area as a user does. What is done is written as steps, see performStep().
-class tst_RichTextAreaData : public NativeTest
+class tst_RichTextAreaData : public SceneTest
 {
     Q_OBJECT
 
@@ -66,9 +65,8 @@ private Q_SLOTS:
     {
         // Qt's own, when something is redone that put less in place of a selection.
         QTest::failOnWarning(QRegularExpression(u"^(?!QTextCursor::setPosition: Position '\\d+' out of range$)"_s));
-        m_window = create<QQuickWindow>(m_engine, sceneSource);
-        QVERIFY(activate(*m_window));
-        m_area = m_window->findChild<QQuickItem *>(u"area"_s);
+        open(sceneSource);
+        m_area = item("area");
         m_data = m_area->findChild<UTRichTextAreaData *>();
         QVERIFY(m_data && m_data->textDocument());
     }
@@ -511,8 +509,6 @@ private:
         return cursor.charFormat();
     }
 
-    QQmlEngine m_engine;
-    std::unique_ptr<QQuickWindow> m_window;
     QQuickItem *m_area = nullptr;
     UTRichTextAreaData *m_data = nullptr;
 };

@@ -18,6 +18,7 @@ log=$area/log
 output=$area/output
 failures=0
 status=0
+through=()
 
 # --- The stage ----------------------------------------------------------------------------------------------------
 
@@ -66,7 +67,8 @@ set_stage() {
         exec "$@"'
 }
 
-# run [NAME=VALUE...] [-- ARGUMENTS...]: ./toolkit ARGUMENTS, with its output and exit status kept.
+# run [NAME=VALUE...] [-- ARGUMENTS...]: ./toolkit ARGUMENTS, with its output and exit status kept; by way of the program
+# ${through[@]} if that is set.
 run() {
     local variables=()
     while (($#)) && [[ $1 != -- ]]; do
@@ -77,7 +79,7 @@ run() {
     : >"$log"
     status=0
     (cd "$tree" && env -i PATH="$area/bin:$area/tools" HOME="$area/home" UITOOLKIT_OS_RELEASE="$area/os-release" \
-        "${variables[@]}" ./toolkit "$@" >"$output" 2>&1 </dev/null) || status=$?
+        "${variables[@]}" "${through[@]}" ./toolkit "$@" >"$output" 2>&1 </dev/null) || status=$?
 }
 
 # --- What is checked ----------------------------------------------------------------------------------------------
@@ -93,20 +95,19 @@ fail() {
     failures=$((failures + 1))
 }
 
-expect_status() {
-    [[ $status == "$1" ]] || fail "exit status $status, not $1"
-}
-
-expect_output() {
-    grep -qF -- "$1" "$output" || fail "no \"$1\" in the output"
-}
-
-expect_started() {
-    grep -qE -- "^$1" "$log" || fail "\"$1\" was not started"
-}
-
-expect_not_started() {
-    ! grep -qE -- "^$1" "$log" || fail "\"$1\" was started"
+# expect WHAT VALUE...: of the last run, "status" is what it ended with, "output" a text in what it said, "started" and
+# "idle" patterns of command lines that it started or did not.
+expect() {
+    while (($#)); do
+        case $1 in
+            status) [[ $status == "$2" ]] || fail "exit status $status, not $2" ;;
+            output) grep -qF -- "$2" "$output" || fail "no \"$2\" in the output" ;;
+            started) grep -qE -- "^$2" "$log" || fail "\"$2\" was not started" ;;
+            idle) ! grep -qE -- "^$2" "$log" || fail "\"$2\" was started" ;;
+            *) fail "the test expects an unknown $1" ;;
+        esac
+        shift 2
+    done
 }
 
 # --- Tests --------------------------------------------------------------------------------------------------------
@@ -118,123 +119,101 @@ test_what_cannot_be_done_is_refused_in_one_line_before_anything_is_started() {
         "--debian13 install --prefix=/usr"; do
         # shellcheck disable=SC2086 # the words are arguments
         run -- $arguments
-        expect_status 2
+        expect status 2 idle .
         [[ $(wc -l <"$output") == 1 ]] || fail "\"$arguments\" is not answered in one line"
-        [[ ! -s $log ]] || fail "\"$arguments\" started something"
     done
 }
 
 test_other_systems_are_refused_and_derived_ones_are_not() {
     echo 'ID=fedora' >"$area/os-release"
     run -- build
-    expect_status 2
-    expect_output "not Debian"
-    expect_not_started .
+    expect status 2 output "not Debian" idle .
 
     printf 'ID=ubuntu\nID_LIKE=debian\nVERSION_ID=24.04\n' >"$area/os-release"
     run -- build
-    expect_status 0
-    [[ -f $tree/build/ubuntu-24.04/build.ninja ]] || fail "not built in build/ubuntu-24.04"
+    expect status 0 started "cmake --build $tree/build/ubuntu-24.04"
 }
 
 test_only_missing_packages_are_installed_and_they_are_named() {
     run -- test
-    expect_status 0
-    expect_not_started apt-get
+    expect status 0 idle apt-get
 
     stand_in dpkg-query 'shift 2
         for package; do
             case $package in ninja-build) ;; xvfb) echo "xvfb config-files" ;; *) echo "$package installed" ;; esac
         done'
+    local install="apt-get .*install --yes --no-install-recommends"
     run -- test
-    expect_status 0
-    expect_output "installing from the system's packages: ninja-build xvfb"
-    expect_started "apt-get .*install --yes --no-install-recommends ninja-build xvfb$"
-
+    expect status 0 output "installing from the system's packages: ninja-build xvfb" started "$install ninja-build xvfb$"
     # A build needs no display.
     run -- build
-    expect_started "apt-get .*install --yes --no-install-recommends ninja-build$"
+    expect started "$install ninja-build$"
 }
 
 test_installing_that_fails_ends_the_command() {
     stand_in dpkg-query
     stand_in apt-get '[[ $* != *install* ]]'
     run -- build
-    expect_status 1
-    expect_output "installing failed"
-    expect_not_started cmake
+    expect status 1 output "installing failed" idle cmake
 
     # A package list that cannot be renewed does not: the one at hand may do.
     stand_in apt-get '[[ $* != *update* ]]'
     run -- build
-    expect_status 0
+    expect status 0
 }
 
 test_without_a_way_to_become_root_nothing_is_installed() {
-    ((EUID == 0)) && ! command -v setpriv >/dev/null && return
+    local through=()
+    if ((EUID == 0)); then
+        command -v setpriv >/dev/null || return
+        through=("$(command -v setpriv)" --reuid 65534 --clear-groups)
+        chmod 755 "$area"
+        chmod 666 "$log"
+    fi
     stand_in dpkg-query
     rm "$area/bin/sudo"
-    local as_user=()
-    ((EUID != 0)) || as_user=(setpriv --reuid 65534 --clear-groups)
-    chmod 755 "$area"
-    chmod 666 "$log"
-    (cd "$tree" && env -i PATH="$area/bin:$area/tools" UITOOLKIT_OS_RELEASE="$area/os-release" \
-        "$(command -v env)" "${as_user[@]/#setpriv/$(command -v setpriv)}" ./toolkit build >"$output" 2>&1 </dev/null)
-    status=$?
-    expect_status 2
-    expect_output "needs root"
-    expect_not_started apt-get
+    run -- build
+    expect status 2 output "needs root" idle apt-get
 }
 
-test_a_second_build_does_not_configure_again() {
+test_only_a_changed_or_copied_tree_is_configured_again() {
+    local configure="cmake --preset debug -B" build="cmake --build"
     run -- build
-    expect_started "cmake --preset debug -B $tree/build/somewhere"
+    expect started "$configure $tree/build/somewhere"
     run -- build
-    expect_status 0
-    expect_not_started "cmake --preset"
-    expect_started "cmake --build $tree/build/somewhere"
+    expect status 0 idle "$configure" started "$build $tree/build/somewhere"
 
     touch -d "+1 minute" "$tree/CMakePresets.json"
     run -- build
-    expect_started "cmake --preset"
-}
+    expect started "$configure"
 
-test_a_copied_tree_is_configured_anew() {
-    run -- build
     touch "$tree/build/somewhere/left-over"
     mv "$tree" "$area/moved"
     tree=$area/moved run -- build
+    expect status 0
     [[ ! -e $area/moved/build/somewhere/left-over ]] || fail "the old build folder is still used"
-    expect_status 0
 }
 
-test_failures_come_through() {
-    run BUILD_STATUS=1 -- test
-    expect_status 1
-    expect_not_started ctest
-    run CTEST_STATUS=8 -- test
-    expect_status 1
-    run CTEST_STATUS=8 -- sanitize
-    expect_status 1
-}
-
-test_arguments_reach_the_test_runner() {
+test_arguments_and_failures_come_through() {
     run -- test -R "two words"
-    expect_started "ctest .*--output-on-failure --no-tests=error .*-R two words$"
+    expect status 0 started "ctest .*--output-on-failure --no-tests=error .*-R two words$"
+    run BUILD_STATUS=1 -- test
+    expect status 1 idle ctest
+    local command
+    for command in test sanitize; do
+        run CTEST_STATUS=8 -- $command
+        expect status 1 started ctest
+    done
 }
 
 test_without_a_display_the_gallery_is_drawn_to_pictures() {
+    local shots=$tree/build/somewhere/shots
     run -- gallery
-    expect_status 0
-    expect_started "xvfb-run .*gallery --shots $tree/build/somewhere/shots"
-    expect_output "$tree/build/somewhere/shots/contact-light.png"
-
+    expect status 0 started "xvfb-run .*gallery --shots $shots" output "$shots/contact-light.png"
     run -- gallery --page UTButton --shot one.png
-    expect_started "xvfb-run .*gallery --page UTButton --shot one.png"
-
+    expect started "xvfb-run .*gallery --page UTButton --shot one.png"
     run DISPLAY=:7 -- gallery --page UTButton
-    expect_started "cmake-gallery --page UTButton"
-    expect_not_started xvfb-run
+    expect started "cmake-gallery --page UTButton" idle xvfb-run
 }
 
 test_formatting_leaves_alone_what_git_ignores() {
@@ -242,14 +221,11 @@ test_formatting_leaves_alone_what_git_ignores() {
     mkdir -p "$tree/build" "$tree/A folder"
     touch "$tree/build/generated.cpp" "$tree/A folder/New.cpp" "$tree/Kept.h" "$tree/Gone.cpp" "$tree/Other.qml"
     run -- format
-    expect_started "clang-format-19 .*A folder/New.cpp"
-    expect_started "clang-format-19 .*Kept.h"
-    ! grep -qE 'generated|qml' "$log" || fail "too much is formatted"
+    expect started "clang-format-19 .*A folder/New.cpp" started "clang-format-19 .*Kept.h" idle ".*(generated|qml)"
 
     (cd "$tree" && git init -q && git add -A && rm Gone.cpp)
     run -- format
-    expect_started "clang-format-19 .*A folder/New.cpp"
-    ! grep -qE 'generated|qml|Gone' "$log" || fail "too much is formatted"
+    expect started "clang-format-19 .*A folder/New.cpp" idle ".*(generated|qml|Gone)"
 }
 
 test_the_debian_13_system_is_made_once_and_only_when_complete_bears_its_name() {
@@ -257,33 +233,29 @@ test_the_debian_13_system_is_made_once_and_only_when_complete_bears_its_name() {
     mkdir -p "$root/half" "$root.unfinished/half"
 
     run -- --debian13 build
-    expect_status 2
-    expect_output "was not made by this command"
+    expect status 2 output "was not made by this command"
     [[ -d $root/half ]] || fail "what somebody else made is removed"
 
     touch "$root/.uitoolkit-root-0"
     run DEBOOTSTRAP_STATUS=1 -- --debian13 build
-    expect_status 1
+    expect status 1
     [[ ! -e $root ]] || fail "a half-made system bears the name of a whole one"
 
     run -- --debian13 build
-    expect_status 0
-    expect_started debootstrap
-    expect_started "unshare .*--enter $root "
+    expect status 0 started debootstrap started "unshare .*--enter $root "
     [[ -d $root/usr/sbin && ! -e $root/half && ! -e $root.unfinished ]] || fail "the new system is not in its place"
 
     run -- --debian13 build
-    expect_not_started debootstrap
-    expect_started "unshare .*--enter $root $tree /uitoolkit .*-- build$"
+    expect idle debootstrap started "unshare .*--enter $root $tree /uitoolkit .*-- build$"
 }
 
 test_folders_in_the_work_tree_have_another_name_inside_the_debian_13_system() {
     run -- --debian13 shots "$tree/pictures"
-    expect_started "unshare .*-- shots /uitoolkit/pictures$"
-    run -- --debian13 install "--prefix=$tree/out"
-    expect_started "unshare .*-- install --prefix=/uitoolkit/out$"
+    expect started "unshare .*-- shots /uitoolkit/pictures$"
     run -- --debian13 shots /tmp/pictures
-    expect_started "unshare .*-- shots /tmp/pictures$"
+    expect started "unshare .*-- shots /tmp/pictures$"
+    run -- --debian13 install "--prefix=$tree/out"
+    expect started "unshare .*-- install --prefix=/uitoolkit/out$"
 }
 
 # --- Start --------------------------------------------------------------------------------------------------------

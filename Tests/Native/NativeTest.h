@@ -58,7 +58,7 @@ protected:
     }
 
 protected Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+    virtual void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 };
 
 //! A test of what happens in a window that is described in QML.

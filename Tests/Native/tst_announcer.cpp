@@ -49,7 +49,7 @@ class tst_Announcer : public SceneTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void init() override
     {
         NativeTest::init();
         if (!AccessibleMonitor::isAvailable())

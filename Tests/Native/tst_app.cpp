@@ -37,7 +37,7 @@ class tst_App : public SceneTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void init() override
     {
         NativeTest::init();
         open(sceneSource);

@@ -65,7 +65,7 @@ class tst_ColorData : public NativeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void init() override
     {
         NativeTest::init();
         hostSets = {{"plain", makeSet("plain", 0)}, {"active", makeSet("active", 100)}};

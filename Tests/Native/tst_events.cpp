@@ -44,7 +44,7 @@ class tst_Events : public NativeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void init() override
     {
         NativeTest::init();
         m_window.resize(200, 200);

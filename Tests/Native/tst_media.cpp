@@ -75,7 +75,7 @@ class tst_Media : public NativeTest
 private Q_SLOTS:
     void initTestCase() { m_engine.addImageProvider(DynamicSource::providerId(), new DynamicImageProvider); }
 
-    void init()
+    void init() override
     {
         NativeTest::init();
         m_server = std::make_unique<Server>(); // on a port of its own, so that each address is new to the log

@@ -61,7 +61,7 @@ private Q_SLOTS:
         qmlRegisterUncreatableType<UTRichTextAreaData>("RichTextTest", 1, 0, "UTRichTextAreaData", u"attached"_s);
     }
 
-    void init()
+    void init() override
     {
         // Qt's own, when something is redone that put less in place of a selection.
         QTest::failOnWarning(QRegularExpression(u"^(?!QTextCursor::setPosition: Position '\\d+' out of range$)"_s));

@@ -70,7 +70,7 @@ private Q_SLOTS:
         KIcons::addSearchPath(m_dir.path());
     }
 
-    void init()
+    void init() override
     {
         NativeTest::init();
         m_provider = std::make_unique<KSvgImageProvider>();

@@ -17,7 +17,7 @@ class tst_thememanager : public NativeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void init() override
     {
         NativeTest::init();
         QVERIFY(m_dir.isValid());

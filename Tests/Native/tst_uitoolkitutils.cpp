@@ -42,7 +42,7 @@ public Q_SLOTS:
     void recordUrl(const QUrl &url) { m_opened.append(url); }
 
 private Q_SLOTS:
-    void init()
+    void init() override
     {
         NativeTest::init();
         m_opened.clear();

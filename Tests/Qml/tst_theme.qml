@@ -8,7 +8,7 @@ ToolkitTestCase {
     name: "Theme"
 
     // Objects, which can be asked for their properties as the singletons' names cannot.
-    readonly property QtObject fonts: FontConstants
+    readonly property var fonts: FontConstants
     readonly property QtObject accessibleKeys: AccessibleConstants
 
     // An interactive thing whose state labels and backgrounds follow.

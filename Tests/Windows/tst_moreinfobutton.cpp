@@ -42,7 +42,8 @@ void tst_MoreInfoButton::keyboard()
     // The same button opens and closes it, though the focus leaves the balloon before the click comes.
     const QPoint place = globalCenter(button);
     for (const bool opens : {true, false}) {
-        QVERIFY(user(QStringLiteral("mousemove %1 %2 sleep 0.1 mousedown 1 sleep 0.2 mouseup 1").arg(place.x()).arg(place.y())));
+        QVERIFY(user(
+            QStringLiteral("mousemove %1 %2 sleep 0.1 mousedown 1 sleep 0.2 mouseup 1").arg(place.x()).arg(place.y())));
         EVENTUALLY(isOpen() == opens && button->property("down").toBool() == false);
         if (opens)
             EVENTUALLY(!otherWindows().isEmpty() && hasFocus(otherWindows().constFirst()));

@@ -356,13 +356,17 @@ Item {
             if (control.windowComponentInstance !== created)
                 return;
             control.activeScreenIndex = UIToolKitUtils.getScreenIndexFromPoint(Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2));
-            // At its place from the first moment, which the user would see.
-            created["takeSize"]();
-            created.visible = true;
+            showPlaced(created);
             if (control.showWithActive && isLinux) {
                 created.raise();
                 created.requestActivate();
             }
+        }
+
+        // At its place from the first moment, which the user would see.
+        function showPlaced(opened: var): void {
+            opened.takeSize();
+            opened.visible = true;
         }
 
         function destroyWindow(): void {

@@ -8,7 +8,7 @@ ToolkitTestCase {
     name: "Theme"
 
     // Objects, which can be asked for their properties as the singletons' names cannot.
-    readonly property var fonts: FontConstants
+    readonly property QtObject fonts: FontConstants
     readonly property QtObject accessibleKeys: AccessibleConstants
 
     // An interactive thing whose state labels and backgrounds follow.
@@ -37,7 +37,7 @@ ToolkitTestCase {
     FontMetrics { id: fontMetrics; font: FontConstants.bannerPrimary }
 
     function test_fonts() {
-        compare(fonts.lineHeight(fonts.bannerPrimary), fontMetrics.height);
+        compare(FontConstants.lineHeight(FontConstants.bannerPrimary), fontMetrics.height);
         const presets = Object.keys(fonts).filter(name => fonts[name].pixelSize);
         verify(presets.includes("bodySecondaryBold"));
         const sizes = presets.map(preset => fonts[preset].pixelSize);

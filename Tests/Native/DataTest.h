@@ -29,11 +29,7 @@ private:
         const QMetaObject *metaObject() const override { return m_metaObject.get(); }
 
     private:
-        struct Free
-        {
-            void operator()(QMetaObject *object) const { std::free(object); }
-        };
-        std::unique_ptr<QMetaObject, Free> m_metaObject;
+        QScopedPointer<QMetaObject, QScopedPointerPodDeleter> m_metaObject;
     };
 
     Component m_component;

@@ -90,23 +90,18 @@ protected Q_SLOTS:
 };
 
 //! Takes text as any kind of literal.
-class AnyText
+class AnyText : public QString
 {
 public:
-    AnyText() = default;
     AnyText(const char *text)
-        : m_text(QString::fromUtf8(text))
+        : QString(QString::fromUtf8(text))
     {
     }
     template<std::convertible_to<QString> Text>
     AnyText(const Text &text)
-        : m_text(text)
+        : QString(text)
     {
     }
-    operator QString() const { return m_text; }
-
-private:
-    QString m_text;
 };
 
 /*!
@@ -128,6 +123,6 @@ public:
 
     void operator()(const AnyText &name, const Cell<Values> &...cells) const
     {
-        (QTest::newRow(qPrintable(QString(name))) << ... << static_cast<const Values &>(cells));
+        (QTest::newRow(qPrintable(name)) << ... << static_cast<const Values &>(cells));
     }
 };

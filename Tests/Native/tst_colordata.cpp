@@ -191,6 +191,7 @@ private Q_SLOTS:
             color.setEventData(&first);
             first.setEnabled(true);
         }
+        QCoreApplication::processEvents(); // what is under way finds nobody
         QVERIFY(!color.eventData());
         color.setThemeType(u"dark"_s);
         QCOMPARE(color.color(), QColor(Qt::transparent));

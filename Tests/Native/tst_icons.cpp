@@ -105,24 +105,18 @@ private Q_SLOTS:
         QVERIFY2(unknown.isEmpty(), qPrintable(unknown.join(u'\n')));
     }
 
-    void artwork_data()
-    {
-        const Table<QString> row{"path"};
-        for (const char *path :
-             {":/Resources/spinner.svg", ":/Resources/empty-inbox.svg", ":/Resources/sample-landscape.png",
-              ":/Resources/audio-wave-0.svg", ":/Resources/audio-wave-3.svg", ":/emojis/smile.svg",
-              ":/emojis/heart.svg", ":/emojis/celebrate.svg"})
-            row(path, path);
-    }
-
     void artwork()
     {
-        QFETCH(QString, path);
-        QImageReader reader(path);
-        const QImage image = reader.read();
-        QVERIFY2(!image.isNull(),
-                 qPrintable(reader.errorString())); // Qt reads SVG by a plugin, at times a package apart
-        QVERIFY(inkOf(image) > image.width());
+        for (const QString &path :
+             {u":/Resources/spinner.svg"_s, u":/Resources/empty-inbox.svg"_s, u":/Resources/sample-landscape.png"_s,
+              u":/Resources/audio-wave-0.svg"_s, u":/Resources/audio-wave-3.svg"_s, u":/emojis/smile.svg"_s,
+              u":/emojis/heart.svg"_s, u":/emojis/celebrate.svg"_s}) {
+            QImageReader reader(path);
+            const QImage image = reader.read();
+            // Qt reads SVG by a plugin, at times a package apart.
+            QVERIFY2(!image.isNull(), qPrintable(path + u": "_s + reader.errorString()));
+            QVERIFY2(inkOf(image) > image.width(), qPrintable(path));
+        }
     }
 
     void spinners_data()

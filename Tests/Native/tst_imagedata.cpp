@@ -61,25 +61,18 @@ private Q_SLOTS:
         }
     }
 
-    void watermark_data()
-    {
-        const Table<int, QVariantList> row{"size", "metrics"};
-        const QVariantList medium = {16, 100, 72, -15};
-        row("large", 0, {20, 110, 80, -20});
-        row("medium", 1, medium);
-        row("small", 2, {12, 90, 60, -10});
-        row("unknown", 3, medium);
-        row("negative", -1, medium);
-    }
-
     void watermark()
     {
-        QFETCH(int, size);
-        UTWatermarkData data;
-        QSignalSpy spy(&data, &UTWatermarkData::watermarkHeightChanged);
-        data.setWatermarkSize(UTWatermarkEnum::WatermarkSize(size));
-        QTEST(values(data, "fontPointSize watermarkHeight watermarkWidth rotationAngle"), "metrics");
-        QCOMPARE(spy.count(), data.watermarkHeight() == 100 ? 0 : 1);
+        const QVariantList medium = {16, 100, 72, -15};
+        const std::pair<int, QVariantList> rows[] = {
+            {0, {20, 110, 80, -20}}, {1, medium}, {2, {12, 90, 60, -10}}, {3, medium}, {-1, medium}};
+        for (const auto &[size, metrics] : rows) {
+            UTWatermarkData data;
+            const QSignalSpy spy(&data, &UTWatermarkData::watermarkHeightChanged);
+            data.setWatermarkSize(UTWatermarkEnum::WatermarkSize(size));
+            QCOMPARE(values(data, "fontPointSize watermarkHeight watermarkWidth rotationAngle"), metrics);
+            QCOMPARE(spy.count(), metrics == medium ? 0 : 1);
+        }
     }
 };
 

@@ -262,24 +262,18 @@ private Q_SLOTS:
         const Table<QString, QString, QString> row{"members", "list", "description"}; // of row 1
         const QString elements =
             u"ListElement { isSection: true; sectionName: 'A' } ListElement { isSection: false }"_s;
+        const QString object = u"QtObject { property bool isSection: true; property string sectionName: 'A' }"_s;
+        const QString map = u"{ isSection: true, sectionName: 'A' }"_s;
         row("nothing", "", "0 Items", "");
         row("null", "model: null", "0 Items", "");
         row("list model", u"model: ListModel { %1 }"_s.arg(elements), "1 Group", "1 of 1");
         row("filled late",
-            u"property var m: ListModel {} model: m; Component.onCompleted: { m.append({ label: 'x' });"
-            " m.append({ isSection: true, sectionName: 'A' }) }"_s,
+            u"property var m: ListModel {} model: m; Component.onCompleted: m.append([{ l: 'x' }, %1])"_s.arg(map),
             "2 Groups", "A, Group");
         row("delegate model", u"model: DelegateModel { model: ListModel { %1 } }"_s.arg(elements), "1 Group", "1 of 1");
-        row("object model",
-            "model: ObjectModel { QtObject {} QtObject { property bool isSection: true; property string sectionName: "
-            "'A' } }",
-            "2 Groups", "A, Group");
-        row("array of objects", "model: [{ isSection: true, sectionName: 'A' }, { isSection: false }, null]", "1 Group",
-            "1 of 2");
-        row("array of items",
-            "model: [o, o]; property QtObject o: QtObject { property int isSection: 1; property string sectionName: "
-            "'A' }",
-            "2 Groups", "A, Group");
+        row("object model", u"model: ObjectModel { QtObject {} %1 }"_s.arg(object), "2 Groups", "A, Group");
+        row("array of objects", u"model: [%1, { isSection: false }, null]"_s.arg(map), "1 Group", "1 of 2");
+        row("array of items", u"model: [o, o]; property QtObject o: %1"_s.arg(object), "2 Groups", "A, Group");
         row("list of items",
             "model: l; property list<QtObject> l: [QtObject { property bool isSection: true }, QtObject {}]", "2 Items",
             "1 of 1");
@@ -292,10 +286,9 @@ private Q_SLOTS:
         row("negative", "model: -3", "0 Items", "");
         row("not a number", "model: NaN", "0 Items", "");
         row("endless", "model: Infinity", "2147483647 Items", "2 of 2147483647");
-        row("one object", "model: ({ isSection: true, sectionName: 'A' })", "1 Group", "");
+        row("one object", u"model: (%1)"_s.arg(map), "1 Group", "");
         row("text", "model: 'abc'", "1 Item", "");
-        row("hole", "model: { const a = []; a[1] = { isSection: true, sectionName: 'A' }; return a }", "2 Groups",
-            "A, Group");
+        row("hole", u"model: { const a = []; a[1] = %1; return a }"_s.arg(map), "2 Groups", "A, Group");
     }
 
     void models()

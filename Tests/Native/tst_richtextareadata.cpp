@@ -207,17 +207,12 @@ private Q_SLOTS:
 
     void clipboardKinds()
     {
-        auto *both = new QMimeData;
-        both->setHtml(u"<i>rich</i>"_s);
-        both->setText(u"plain"_s);
-        QGuiApplication::clipboard()->setMimeData(both);
+        copy({{u"text/html"_s, "<i>rich</i>"}, {u"text/plain"_s, "plain"}});
         QTest::ignoreMessage(QtDebugMsg, "UTRichTextAreaData::pasteText(html)");
         QMetaObject::invokeMethod(m_area, "paste");
         QCOMPARE(html(), u"<p><i>rich</i></p>"_s);
 
-        auto *other = new QMimeData;
-        other->setData(u"application/x-thing"_s, "x");
-        QGuiApplication::clipboard()->setMimeData(other);
+        copy({{u"application/x-thing"_s, "x"}});
         QTest::ignoreMessage(QtDebugMsg, "UTRichTextAreaData::pasteText(other)");
         m_data->pasteText();
         QGuiApplication::clipboard()->clear();
@@ -419,6 +414,14 @@ private:
         }
     }
 
+    static void copy(const QMap<QString, QByteArray> &formats)
+    {
+        auto *data = new QMimeData;
+        for (auto format = formats.begin(); format != formats.end(); ++format)
+            data->setData(format.key(), format.value());
+        QGuiApplication::clipboard()->setMimeData(data);
+    }
+
     //! "verb argument"; a comma separates two arguments.
     void performStep(const QString &step)
     {
@@ -437,12 +440,7 @@ private:
             commit.setCommitString(part(0), -part(1).toInt(), part(1).toInt());
             QCoreApplication::sendEvent(m_area, &commit);
         } else if (verb == "html"_L1 || verb == "text"_L1) {
-            auto *data = new QMimeData;
-            if (verb == "html"_L1)
-                data->setHtml(argument);
-            else
-                data->setText(argument);
-            QGuiApplication::clipboard()->setMimeData(data);
+            copy({{verb == "html"_L1 ? u"text/html"_s : u"text/plain"_s, argument.toUtf8()}});
             QTest::keySequence(m_window.get(), QKeySequence(QKeySequence::Paste));
         } else if (verb == "select"_L1) {
             QMetaObject::invokeMethod(m_area, "select", Q_ARG(int, part(0).toInt()), Q_ARG(int, part(1).toInt()));

@@ -2,28 +2,10 @@ import QtQuick
 import Korvu 1.0
 
 Window {
-    id: window
-
     width: 320
     height: 200
     visible: true
     title: "Host"
-
-    component Action: Rectangle {
-        id: action
-
-        signal triggered
-
-        width: 100
-        height: 30
-        activeFocusOnTab: true
-        color: activeFocus ? "lightblue" : "lightgray"
-        // A button would have its press action twice: once of its role, once of the handler.
-        Accessible.role: Accessible.MenuItem
-        Accessible.focusable: true
-        Accessible.onPressAction: action.triggered()
-        Keys.onSpacePressed: action.triggered()
-    }
 
     Column {
         Action {

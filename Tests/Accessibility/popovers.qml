@@ -9,16 +9,10 @@ Window {
     visible: true
     title: "Pop-overs"
 
-    Item {
-        width: 80
-        height: 30
-        focus: true
-        activeFocusOnTab: true
-
-        Accessible.role: Accessible.MenuItem
+    Action {
         Accessible.name: "People"
-        Accessible.focusable: true
-        Accessible.onPressAction: popOver.showPopOver()
+        focus: true
+        onTriggered: popOver.showPopOver()
 
         UTPopOver {
             id: popOver
@@ -28,15 +22,9 @@ Window {
                 implicitWidth: 160
                 implicitHeight: 60
 
-                Item {
-                    width: 80
-                    height: 30
-                    focus: true
-                    activeFocusOnTab: true
-
-                    Accessible.role: Accessible.MenuItem
+                Action {
                     Accessible.name: "Invite"
-                    Accessible.focusable: true
+                    focus: true
                 }
             }
         }

@@ -23,15 +23,10 @@ Window {
             spinnerType: UTSpinner.Waiting
         }
         UTLabel { text: "A label" }
-        Item {
-            width: 30
-            height: 30
-            focus: true
-            activeFocusOnTab: true
-            Accessible.role: Accessible.MenuItem
+        Action {
             Accessible.name: "Step"
-            Accessible.focusable: true
-            Accessible.onPressAction: {
+            focus: true
+            onTriggered: {
                 if (waiting.visible)
                     waiting.UTAccessible.info.description = "Waiting for an answer";
                 waiting.visible = true;

@@ -9,18 +9,12 @@ Window {
     visible: true
     title: "Tool tips"
 
-    Item {
+    Action {
         id: mute
 
-        width: 80
-        height: 30
-        focus: true
-        activeFocusOnTab: true
-
-        Accessible.role: Accessible.MenuItem
         Accessible.name: "Mute"
-        Accessible.focusable: true
-        Accessible.onPressAction: tip.active = !tip.active
+        focus: true
+        onTriggered: tip.active = !tip.active
 
         UTToolTip {
             id: tip

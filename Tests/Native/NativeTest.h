@@ -86,7 +86,7 @@ protected:
     std::unique_ptr<QQuickWindow> m_window;
 
 protected Q_SLOTS:
-    void cleanup() { m_window.reset(); }
+    virtual void cleanup() { m_window.reset(); }
 };
 
 //! Takes text as any kind of literal.

@@ -44,7 +44,7 @@ private Q_SLOTS:
         m_app->setKeyboardFocus(false);
     }
 
-    void cleanup()
+    void cleanup() override
     {
         SceneTest::cleanup();
         m_app->setTextScale(1);

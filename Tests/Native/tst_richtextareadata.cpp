@@ -102,7 +102,6 @@ private Q_SLOTS:
         row("mention", u"html <a href='%1'>me</a>!"_s.arg(UIToolKitUtils::mentionLink()), "<p><b>me</b>!</p>");
 
         row("headings", "html <h2>a</h2><h4>b</h4>c", "<h2><b>a</b></h2><p><b>b</b></p><p>c</p>");
-        row("heading set and cleared", "type a | heading 1,1 | heading 1,0", "<p>a</p>");
         row("heading over blocks", "text a\nb\nc | select 1,3 | heading 3,1",
             "<h3><b>a</b></h3><h3><b>b</b></h3><p>c</p>");
         row("typed into a heading", "heading 2,1 | type ab", "<h2><b>ab</b></h2>");
@@ -112,7 +111,6 @@ private Q_SLOTS:
         row("numbers become bullets", "html <ol><li>a<li><i>b</i></ol>c",
             "<ul><li><p>a</p></li><li><p><i>b</i></p></li></ul><p>c</p>");
         row("bullets", "bullets | type a | key Return | type b", "<ul><li><p>a</p></li><li><p>b</p></li></ul>");
-        row("bullets for pasted text", "bullets | text a\nb", "<ul><li><p>a</p></li><li><p>b</p></li></ul>");
         row("lost bullet comes back", "bullets | type a | key Return | key Backspace | type b",
             "<ul><li><p>a</p></li><li><p>b</p></li></ul>");
 
@@ -120,7 +118,6 @@ private Q_SLOTS:
         row("one undo for both", "type abcd | select 1,3 | html <b>x</b> | undo", "<p>abcd</p>");
         row("paste text with pending format", "key Ctrl+B | text x\r\ny", "<p><b>x</b></p><p><b>y</b></p>");
         row("replace", "type abc | caret 0 | replace <p>x</p><p></p><p>y</p>", "<p>x</p><p></p><p>y</p>");
-        row("replace is undone", "type abc | replace x | undo", "<p>abc</p>");
         row("replace by nothing", "type abc | caret 0 | replace  | type d", "<p>d</p>");
         row("pictures go alone", "text a | picture | sanitise", "<p>a</p>");
         row("sanitise", "html <h1>a</h1><ul><li>b</ul> | sanitise", "<h1><b>a</b></h1><ul><li><p>b</p></li></ul>");
@@ -131,9 +128,8 @@ private Q_SLOTS:
     void edits()
     {
         QFETCH(QString, steps);
-        QFETCH(QString, expected);
         perform(steps);
-        QCOMPARE(html(), expected);
+        QTEST(html(), "expected");
         QCOMPARE(unsupported(), QString());
         QCOMPARE(m_area->property("preeditText").toString(), QString());
     }
@@ -162,34 +158,28 @@ private Q_SLOTS:
         QCOMPARE(document()->defaultStyleSheet(), u"a { color: #00ff00; text-decoration: none; }"_s);
     }
 
-    void links_data()
-    {
-        const Table<QString, QString> row{"link", "target"};
-        row("mail address", "a.b@c-d.org", "mailto:a.b@c-d.org");
-        row("one letter", "a@b.c", "https://a@b.c");
-        row("domain", "example.org", "https://example.org");
-        row("scheme", "ftp://x", "ftp://x");
-        row("mail scheme", "mailto:x", "mailto:x");
-    }
-
     void links()
     {
-        QFETCH(QString, link);
-        QFETCH(QString, target);
-        m_data->addLink(u"one"_s, link);
-        QCOMPARE(m_data->getLinkUnderCursor(), target);
+        for (const auto &[link, target] : {std::pair("a.b@c-d.org", "mailto:a.b@c-d.org"),
+                                           {"a@b.c", "https://a@b.c"},
+                                           {"example.org", "https://example.org"},
+                                           {"ftp://x", "ftp://x"},
+                                           {"mailto:x", "mailto:x"}}) {
+            perform(u"replace  | link one,%1"_s.arg(QLatin1StringView(link)));
+            QCOMPARE(m_data->getLinkUnderCursor(), QLatin1StringView(target));
+        }
         perform("type  ");
         QCOMPARE(m_data->getLinkUnderCursor(), QString());
-        m_data->addLink(u"two"_s, link + u'2');
-        perform("select 0,3");
-        QCOMPARE(m_data->getLinkUnderCursor(), target);
+        perform("link two,other.org | select 0,3");
+        QCOMPARE(m_data->getLinkUnderCursor(), u"mailto:x"_s);
         perform("select 0,7");
         QCOMPARE(m_data->getLinkUnderCursor(), QString());
     }
 
     void limits()
     {
-        perform("limit 10 | type 123456789012 | key Return | key Shift+Return | compose abc | link x,y");
+        m_data->setMaxLength(10);
+        perform("type 123456789012 | key Return | key Shift+Return | compose abc | link x,y");
         QCOMPARE(html(), u"<p>1234567890</p>"_s);
         QTest::ignoreMessage(QtDebugMsg, "UTRichTextAreaData::pasteText, characterCountExceeded:  1");
         perform("text x");
@@ -199,7 +189,6 @@ private Q_SLOTS:
         perform("html <b>abc</b>");
         QCOMPARE(html(), u"<p><b>abc</b>4567890</p>"_s);
         // Not printable ASCII: left to the text area.
-        QTest::keyEvent(QTest::Click, m_window.get(), Qt::Key_Eacute, Qt::NoModifier);
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Eacute, Qt::NoModifier, u"\u00e9"_s);
         QCoreApplication::sendEvent(m_area, &press);
         QVERIFY(html().contains(u'\u00e9'));
@@ -248,10 +237,8 @@ private Q_SLOTS:
 
     void headings()
     {
-        const struct
-        {
-            qreal top, bottom, scale;
-        } expected[] = {{0, 0, 1}, {14, 6, 2}, {10, 6, 1.5}, {8, 6, 1.2}};
+        constexpr qreal topMargins[] = {0, 14, 10, 8};
+        constexpr qreal scales[] = {1, 2, 1.5, 1.2};
         QFont font = document()->defaultFont();
         font.setPointSizeF(10);
         document()->setDefaultFont(font);
@@ -259,9 +246,9 @@ private Q_SLOTS:
         for (int level = 1; level <= 3; ++level) {
             const QTextBlock block = document()->findBlockByNumber(level);
             QCOMPARE(block.blockFormat().headingLevel(), level);
-            QCOMPARE(block.blockFormat().topMargin(), expected[level].top);
-            QCOMPARE(block.blockFormat().bottomMargin(), expected[level].bottom);
-            QCOMPARE(formatBefore(block.position() + 1).fontPointSize(), 10 * expected[level].scale);
+            QCOMPARE(block.blockFormat().topMargin(), topMargins[level]);
+            QCOMPARE(block.blockFormat().bottomMargin(), 6.0);
+            QCOMPARE(formatBefore(block.position() + 1).fontPointSize(), 10 * scales[level]);
         }
         perform("select 0,7 | heading 1,0");
         QCOMPARE(formatBefore(3).fontPointSize(), 10.0);
@@ -338,17 +325,16 @@ private Q_SLOTS:
 
     void anySequence_data()
     {
-        const Table<quint32, bool> row{"seed", "bullets"};
+        const Table<int> row{"seed"};
         const int count = qEnvironmentVariableIntValue("UITOOLKIT_FUZZ_SEQUENCES");
         for (int seed = 1; seed <= (count > 0 ? count : 40); ++seed)
-            QTest::addRow("%d", seed) << quint32(seed) << (seed % 2 == 0);
+            row(QString::number(seed), seed);
     }
 
     //! Whatever is done, the document holds only what it may, its export loads as itself, and undo leads to the start.
     void anySequence()
     {
-        QFETCH(quint32, seed);
-        QFETCH(bool, bullets);
+        QFETCH(int, seed);
         const QStringList steps =
             u"type ab c | type x | key Return | key Return | key Shift+Return | key Backspace | key Delete"
             " | key Ctrl+B | key Ctrl+I | key Ctrl+U | heading 1,1 | heading 2,1 | heading 3,0 | link l,x.y"
@@ -359,7 +345,7 @@ private Q_SLOTS:
                 .arg(UIToolKitUtils::mentionLink())
                 .split(separator);
         QRandomGenerator random(seed);
-        if (bullets)
+        if (seed % 2 == 0)
             perform("bullets");
         const QString start = document()->toHtml();
         QStringList done;
@@ -369,9 +355,8 @@ private Q_SLOTS:
                     const int any = random.bounded(document()->characterCount());
                     return document()->characterAt(any).isLowSurrogate() ? any - 1 : any;
                 };
-                const int a = position();
-                const int b = position();
-                done << (random.bounded(2) ? u"select %1,%2"_s.arg(a).arg(b) : u"caret %1"_s.arg(a));
+                done << (random.bounded(2) ? u"select %1,%2"_s.arg(position()).arg(position())
+                                           : u"caret %1"_s.arg(position()));
             } else {
                 done << steps.at(random.bounded(int(steps.size())));
             }
@@ -383,13 +368,11 @@ private Q_SLOTS:
         m_data->addBulletPoints();
         // HTML has no double blanks, nor any at the edges of a line, and not every change of format can be seen in it.
         const auto simplified = [](QString html) {
-            html.remove(u' ');
-            for (QLatin1StringView tag : {"u"_L1, "i"_L1, "b"_L1, "i"_L1, "u"_L1})
-                html.remove(u"<%1></%1>"_s.arg(tag)).remove(u"</%1><%1>"_s.arg(tag));
-            for (QLatin1StringView seam :
-                 {"</u></i></b><b><i><u>"_L1, "</i></b><b><i>"_L1, "</u></b><b><u>"_L1, "</u></i><i><u>"_L1})
-                html.remove(seam);
+            static const QRegularExpression seam(u"<([biu])></\\1>|</([biu])><\\2>"_s);
             static const QRegularExpression linkSeam(u"(</[biu]>)*</a><ahref=\"https://z\"[^>]*>(<[biu]>)*"_s);
+            html.remove(u' ');
+            while (html.contains(seam))
+                html.remove(seam);
             return html.remove(linkSeam);
         };
         const QString exported = html();
@@ -453,8 +436,6 @@ private:
             m_data->addLink(part(0), part(1));
         } else if (verb == "replace"_L1) {
             m_data->replaceText(argument);
-        } else if (verb == "limit"_L1) {
-            m_data->setMaxLength(argument.toInt());
         } else if (verb == "bullets"_L1) {
             m_data->setAutomaticBullets(true);
         } else if (verb == "picture"_L1) {

@@ -51,14 +51,13 @@ public:
 
     QString host() const { return u"127.0.0.1:%1"_s.arg(serverPort()); }
     QString url(const QByteArray &path) const { return "http://"_L1 + host() + QString::fromLatin1(path); }
-    void answer(const QByteArray &path, const QByteArray &body, const QByteArray &status = "200 OK")
+    void serve(const QByteArray &path, const QByteArray &data, const QByteArray &status = "200 OK")
     {
-        m_answers[path] = "HTTP/1.1 " + status + "\r\nConnection: close\r\n" + body;
+        m_answers[path] = "HTTP/1.1 " + status + "\r\nConnection: close\r\nSet-Cookie: seen=1\r\n\r\n" + data;
     }
-    void serve(const QByteArray &path, const QByteArray &data) { answer(path, "\r\n" + data); }
     void redirect(const QByteArray &path, const QString &target)
     {
-        answer(path, "Location: " + target.toLatin1() + "\r\n\r\n", "302 Found");
+        serve(path, {}, "302 Found\r\nLocation: " + target.toLatin1());
     }
 
     QHash<QByteArray, QByteArray> m_answers;
@@ -180,7 +179,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, path);
         QFETCH(QString, fault);
         m_server->serve("/ok", picture());
-        m_server->answer("/missing", "\r\n", "404 Not Found");
+        m_server->serve("/missing", {}, "404 Not Found");
         m_server->redirect("/near", m_server->url("/ok"));
         m_server->redirect("/far", u"http://a.example/"_s);
         m_server->redirect("/inside", u"file:///etc/hostname"_s);
@@ -188,9 +187,7 @@ private Q_SLOTS:
         m_server->serve("/text", "hello");
         m_server->serve("/damaged", picture({64, 64}).left(60));
         m_server->serve("/drawing", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
-        if (!setting.isEmpty())
-            MediaPolicy::instance()->setProperty(setting.section(u'=', 0, 0).toLatin1().constData(),
-                                                 setting.section(u'=', 1));
+        MediaPolicy::instance()->setProperty(qPrintable(setting.section(u'=', 0, 0)), setting.section(u'=', 1));
         if (!fault.isEmpty())
             expectOnce(fault);
 
@@ -239,8 +236,6 @@ private Q_SLOTS:
 
         KMovieProvider provider;
         QSignalSpy ratio(&provider, &KMovieProvider::aspectRatioChanged);
-        provider.fetch({});
-        QCOMPARE(provider.stackIndex(), 0);
         provider.fetch(DynamicSource::url(m_server->url("/film.gif"), fallback).toString());
         QTRY_COMPARE(provider.stackIndex(), 1);
         QCOMPARE(provider.aspectRatio(), 1.0);
@@ -287,11 +282,8 @@ private Q_SLOTS:
         const auto paintedWidth = [&window] {
             return boundsOf(window.grabWindow(), [](const QColor &color) { return color != Qt::white; }).width();
         };
-        const struct
-        {
-            int fillMode, minimum, maximum;
-        } rows[] = {{0, 60, 100}, {1, 30, 50}, {2, 60, 100}, {6, 15, 27}};
-        for (const auto &[fillMode, minimum, maximum] : rows) {
+        for (const auto &[fillMode, minimum, maximum] :
+             {std::tuple(0, 60, 100), {1, 30, 50}, {2, 60, 100}, {6, 15, 27}}) {
             item->setFillMode(fillMode);
             const int width = paintedWidth();
             QVERIFY2(width >= minimum && width <= maximum, qPrintable(u"%1: %2"_s.arg(fillMode).arg(width)));
@@ -303,9 +295,8 @@ private Q_SLOTS:
 
     void underWay()
     {
-        m_server->m_answers.clear(); // silence
         auto film = std::make_unique<KMovieProvider>();
-        film->fetch(m_server->url("/film"));
+        film->fetch(m_server->url("/film")); // which the server leaves without an answer
         const auto load = [this](QQmlEngine &engine, const QByteArray &path) {
             return create(engine, "import QtQuick\nImage {}",
                           {{u"source"_s, DynamicSource::url(m_server->url(path), {})}});

@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -24,12 +23,6 @@ const QStringList themes{u"light"_s, u"dark"_s, u"highContrast"_s};
 // Every state but disabled.
 const QStringList readableStates{u"normal"_s, u"hovered"_s, u"pressed"_s, u"focused"_s, u"checked"_s};
 const QString normal = u"normal"_s;
-
-QJsonObject pairFile()
-{
-    const QString text = Sources::text(Sources::path("Host/Palettes/pairs.json"));
-    return QJsonDocument::fromJson(text.toUtf8()).object();
-}
 
 AppThemeType typeOf(const QString &theme)
 {
@@ -86,18 +79,10 @@ class tst_palette : public NativeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void luminanceIsThatOfTheStandard()
-    {
-        QCOMPARE(::contrast(Qt::white, Qt::black), 21.0);
-        QVERIFY(std::abs(::contrast(Qt::white, QColor(0x77, 0x77, 0x77)) - 4.48) < 0.005);
-        QCOMPARE(over(QColor(0, 0, 0, 0), Qt::white), QColor(Qt::white));
-    }
-
     void everySetIsValid()
     {
-        const QStringList names = ThemeManager::instance()->colorSetNames();
-        QVERIFY(std::is_sorted(names.begin(), names.end()) && names.contains(u"transparent"_s));
-        for (const QString &name : names) {
+        QVERIFY(std::is_sorted(m_names.begin(), m_names.end()) && m_names.contains(u"transparent"_s));
+        for (const QString &name : m_names) {
             for (const QString &theme : themes) {
                 const KColorSet set = KThemeUtils::getColorSet(name.toUtf8(), typeOf(theme));
                 QVERIFY2(set.isValid() && set.name() == name, qPrintable(name));
@@ -113,14 +98,12 @@ private Q_SLOTS:
         const QStringList tokens =
             Sources::captures(pattern, Sources::text(Sources::path("UIToolkit/Qt/Qml/Data/ColorTokens.def")));
         QCOMPARE(tokens.size(), 301);
-        const QStringList names = ThemeManager::instance()->colorSetNames();
         for (const QString &token : tokens)
-            QVERIFY2(names.contains(token), qPrintable(token));
+            QVERIFY2(m_names.contains(token), qPrintable(token));
     }
 
     void everyNameInTheSourcesIsThere()
     {
-        const QStringList names = ThemeManager::instance()->colorSetNames();
         // What a property that names a colour set is given, or what is asked for outright, to the end of the line ...
         const QRegularExpression use(u"(?:Colou?rSetName|[a-z]ColorName)\\s*[:=]([^\\n;]*)|getColorSet\\(([^\\n;]*)"_s);
         // ... and the names in it: a literal on its own, or one that looks like a name in a longer expression.
@@ -132,7 +115,7 @@ private Q_SLOTS:
             for (const QString &expression : Sources::captures(use, text)) {
                 for (const QString &found : Sources::captures(name, expression)) {
                     ++count;
-                    if (!names.contains(found))
+                    if (!m_names.contains(found))
                         unknown.append(file + ": "_L1 + found);
                 }
             }
@@ -153,7 +136,7 @@ private Q_SLOTS:
         // The compiled table and the files that an application's own palette is laid over are one.
         for (int theme = 0; theme < KPaletteThemeCount; ++theme) {
             const AppThemeType type = typeOf(KPaletteReader::themeName(KPaletteTheme(theme)));
-            QCOMPARE(table[std::size_t(theme)].size(), ThemeManager::instance()->colorSetNames().size());
+            QCOMPARE(table[std::size_t(theme)].size(), m_names.size());
             for (auto set = table[std::size_t(theme)].begin(); set != table[std::size_t(theme)].end(); ++set) {
                 for (int state = 0; state < KColorSet::StateCount; ++state)
                     QCOMPARE(KThemeUtils::getColorSet(set.key(), type).color(KColorSet::State(state)).rgba(),
@@ -173,9 +156,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, theme);
         const AppThemeType type = typeOf(theme);
-        const QJsonObject file = pairFile();
-        const QJsonObject surfaces = file["surfaces"_L1].toObject();
-        const QJsonArray pairs = file["pairs"_L1].toArray();
+        const QJsonObject surfaces = m_pairFile["surfaces"_L1].toObject();
+        const QJsonArray pairs = m_pairFile["pairs"_L1].toArray();
         // Of each pair and state the worst surface.
         QMap<QString, std::pair<double, QString>> failures;
         int checked = 0;
@@ -206,10 +188,9 @@ private Q_SLOTS:
                 const QStringList foregrounds = texts(pair.value(QLatin1String(kind)));
                 for (const QString &foreground : foregrounds) {
                     for (const QString &surface : below) {
-                        const QColor ground = over(colorOf(surface, normal, type), Qt::black);
                         for (const QStringList &stack : std::as_const(stacks)) {
                             for (const QString &state : states) {
-                                QColor background = ground;
+                                QColor background = over(colorOf(surface, normal, type), Qt::black);
                                 for (const QString &layer : stack)
                                     background = over(colorOf(layer, state, type), background);
                                 for (const QString &own : mix ? states : QStringList{state}) {
@@ -235,36 +216,35 @@ private Q_SLOTS:
 
     void everySetIsJudged()
     {
-        const QJsonObject file = pairFile();
-        const QStringList names = ThemeManager::instance()->colorSetNames();
-        QSet<QString> judged;
-        for (const QJsonValue &surfaces : file["surfaces"_L1].toObject()) {
-            for (const QString &name : texts(surfaces))
-                judged.insert(name);
-        }
-        for (const QJsonValue &value : file["pairs"_L1].toArray()) {
+        QStringList judged;
+        for (const QJsonValue &surfaces : m_pairFile["surfaces"_L1].toObject())
+            judged += texts(surfaces);
+        for (const QJsonValue &value : m_pairFile["pairs"_L1].toArray()) {
             for (const char *key : {"on", "background", "text", "icon"}) {
                 const QJsonValue part = value.toObject().value(QLatin1String(key));
-                if (qstrcmp(key, "on") != 0 || part.isArray()) {
-                    for (const QString &name : texts(part))
-                        judged.insert(name);
-                }
+                if (qstrcmp(key, "on") != 0 || part.isArray()) // otherwise the name of some surfaces
+                    judged += texts(part);
             }
         }
         for (const QString &name : std::as_const(judged))
-            QVERIFY2(name.startsWith(u'#') || names.contains(name), qPrintable(name));
+            QVERIFY2(name.startsWith(u'#') || m_names.contains(name), qPrintable(name));
 
-        QJsonObject decoration = file["decoration"_L1].toObject();
+        QJsonObject decoration = m_pairFile["decoration"_L1].toObject();
         decoration.remove("about"_L1);
         QStringList wrong;
-        for (const QString &name : names) {
+        for (const QString &name : m_names) {
             if (judged.contains(name) == decoration.contains(name))
                 wrong.append(name);
         }
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(u'\n')));
         for (const QString &name : decoration.keys())
-            QVERIFY2(names.contains(name), qPrintable(name));
+            QVERIFY2(m_names.contains(name), qPrintable(name));
     }
+
+private:
+    const QStringList m_names = ThemeManager::instance()->colorSetNames();
+    const QJsonObject m_pairFile =
+        QJsonDocument::fromJson(Sources::text(Sources::path("Host/Palettes/pairs.json")).toUtf8()).object();
 };
 
 QTEST_GUILESS_MAIN(tst_palette)

@@ -46,7 +46,7 @@ QImage painted(KBalloon &balloon, qreal ratio)
 
 } // namespace
 
-class TestBalloon : public NativeTest
+class TestBalloon : public SceneTest
 {
     Q_OBJECT
 
@@ -200,30 +200,28 @@ private Q_SLOTS:
 
     void inWindow()
     {
-        QQmlEngine engine;
-        engine.addImportPath(QStringLiteral(UITOOLKIT_QML_DIR));
-        const auto window = create<QQuickWindow>(engine, R"(import QtQuick
+        m_engine.addImportPath(QStringLiteral(UITOOLKIT_QML_DIR));
+        open(R"(import QtQuick
         import UiElements 1.0
         Window {
             width: 200; height: 80
             color: "gray"
             KBalloon {
+                objectName: "balloon"
                 anchors.fill: parent
                 arrowAnchor: KBalloon.Right; arrowAlignment: KBalloon.BottomAlignment
                 backgroundColor: "lime"; borderColor: "red"
             }
         })");
-        QVERIFY(activate(*window));
-        auto *balloon = qobject_cast<KBalloon *>(window->contentItem()->childItems().constFirst());
-        const auto at = [&](int x, int y) {
-            const qreal ratio = window->effectiveDevicePixelRatio();
-            return window->grabWindow().pixelColor(qRound(x * ratio), qRound(y * ratio));
+        const auto at = [this](int x, int y) {
+            const QImage image = m_window->grabWindow();
+            return image.pixelColor(QPoint(x, y) * image.devicePixelRatio());
         };
         QCOMPARE(at(0, 40), QColor(Qt::red));
         QCOMPARE(at(100, 40), QColor(Qt::green));
         QCOMPARE(at(195, 62), QColor(Qt::green)); // in the arrow
         QCOMPARE(at(195, 20), QColor(0x80, 0x80, 0x80));
-        balloon->setArrowAlignment(KBalloon::TopAlignment);
+        item("balloon")->setProperty("arrowAlignment", KBalloon::TopAlignment);
         QCOMPARE(at(195, 18), QColor(Qt::green));
         QCOMPARE(at(195, 62), QColor(0x80, 0x80, 0x80));
     }

@@ -22,7 +22,6 @@ constexpr double highContrast = 7;
 const QStringList themes{u"light"_s, u"dark"_s, u"highContrast"_s};
 // Every state but disabled.
 const QStringList readableStates{u"normal"_s, u"hovered"_s, u"pressed"_s, u"focused"_s, u"checked"_s};
-const QString normal = u"normal"_s;
 
 AppThemeType typeOf(const QString &theme)
 {
@@ -190,7 +189,7 @@ private Q_SLOTS:
                     for (const QString &surface : below) {
                         for (const QStringList &stack : std::as_const(stacks)) {
                             for (const QString &state : states) {
-                                QColor background = over(colorOf(surface, normal, type), Qt::black);
+                                QColor background = over(colorOf(surface, u"normal"_s, type), Qt::black);
                                 for (const QString &layer : stack)
                                     background = over(colorOf(layer, state, type), background);
                                 for (const QString &own : mix ? states : QStringList{state}) {

@@ -180,37 +180,33 @@ private Q_SLOTS:
 
     void badEntries_data()
     {
-        // Each row goes into a file beside one good entry.
         const Table<QByteArray, QByteArray> row{"entry", "message"};
-        row("section of a wrong type", "'roles': 3", "roles: expected an object, found a number");
-        row("unknown section", "'colours': {}", "colours: unknown section");
-        row("unknown theme", "'themes': {'sepia': {}}", "themes.sepia: unknown theme");
-        row("theme of a wrong type", "'themes': {'dark': []}", "themes.dark: expected an object, found a list");
-        row("set of a wrong type", "'sets': {'text-secondary': true}",
+        // Each goes into a file beside one good entry.
+        const auto bad = [&row](const char *entry, const char *message) { row(message, entry, message); };
+        bad("'roles': 3", "roles: expected an object, found a number");
+        bad("'colours': {}", "colours: unknown section");
+        bad("'themes': {'sepia': {}}", "themes.sepia: unknown theme");
+        bad("'themes': {'dark': []}", "themes.dark: expected an object, found a list");
+        bad("'sets': {'text-secondary': true}",
             "sets.text-secondary: expected a text or an object of states, found true or false");
-        row("state of a wrong type", "'sets': {'text-secondary': {'normal': 7}}",
+        bad("'sets': {'text-secondary': {'normal': 7}}",
             "sets.text-secondary.normal: expected a colour text, found a number");
-        row("unknown state", "'sets': {'text-secondary': {'as': 'ink-soft', 'clicked': 'white'}}",
+        bad("'sets': {'text-secondary': {'as': 'ink-soft', 'clicked': 'white'}}",
             "sets.text-secondary.clicked: unknown state");
-        row("no colour at all", "'sets': {'text-secondary': {'hovered': '#FFFFFF'}}",
+        bad("'sets': {'text-secondary': {'hovered': '#FFFFFF'}}",
             "sets.text-secondary: neither 'normal' nor 'as' is given");
-        row("bad colour text", "'sets': {'text-secondary': '#12345'}", "sets.text-secondary: bad colour text '#12345'");
-        row("bad opacity", "'sets': {'text-secondary': '#123456 @ 140%'}",
-            "sets.text-secondary: bad colour text '#123456 @ 140%'");
-        row("unknown base colour", "'sets': {'text-secondary': {'normal': 'acent-60'}}",
+        bad("'sets': {'text-secondary': '#12345'}", "sets.text-secondary: bad colour text '#12345'");
+        bad("'sets': {'text-secondary': '#123456 @ 140%'}", "sets.text-secondary: bad colour text '#123456 @ 140%'");
+        bad("'sets': {'text-secondary': {'normal': 'acent-60'}}",
             "sets.text-secondary.normal: unknown base colour 'acent-60'");
-        row("unknown role", "'families': {'text': {'secondary': 'inc'}}",
-            "families.text.secondary: unknown role or base colour 'inc'");
-        row("bad family", "'families': {'text': 'ink'}", "families.text: expected an object, found a text");
-        row("bad base colour", "'scale': {'accent-60': {'color': 'blueish!'}}",
-            "scale.accent-60: bad colour text 'blueish!'");
-        row("base colour without colour", "'scale': {'accent-60': {'role': 'accent'}}",
-            "scale.accent-60: expected a colour text, found nothing");
-        row("base colour from another", "'scale': {'accent-60': 'white'}",
-            "scale.accent-60: a base colour must be written as '#rrggbb'");
-        row("roles in a circle", "'roles': {'ink-soft': {'as': 'ring'}, 'ring': {'as': 'ink-soft'}}",
+        bad("'families': {'text': {'secondary': 'inc'}}", "families.text.secondary: unknown role or base colour 'inc'");
+        bad("'families': {'text': 'ink'}", "families.text: expected an object, found a text");
+        bad("'scale': {'accent-60': {'color': 'blueish!'}}", "scale.accent-60: bad colour text 'blueish!'");
+        bad("'scale': {'accent-60': {'role': 'accent'}}", "scale.accent-60: expected a colour text, found nothing");
+        bad("'scale': {'accent-60': 'white'}", "scale.accent-60: a base colour must be written as '#rrggbb'");
+        bad("'roles': {'ink-soft': {'as': 'ring'}, 'ring': {'as': 'ink-soft'}}",
             "roles.ink-soft: is defined by itself");
-        row("set in one theme only", "'themes': {'dark': {'sets': {'my-set': 'white'}}}",
+        bad("'themes': {'dark': {'sets': {'my-set': 'white'}}}",
             "my-set: the colour set has no colours in the theme 'light'");
     }
 

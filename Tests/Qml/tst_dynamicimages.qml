@@ -11,55 +11,52 @@ ToolkitTestCase {
     readonly property string picture: "qrc:/Resources/sample-landscape.png"
     readonly property string film: "qrc:/Resources/coverImageSpinner.gif"
 
-    function test_spinnerCompletion_data() {
-        return table(["tag", "type", "completions"], [
-            ["progress", UTSpinner.Progress, 1],
-            ["loading", UTSpinner.Loading, 1],
-            ["none", -1, 1],
-            ["unknown", 7, 1],
-            ["waiting", UTSpinner.Waiting, 0]
-        ]);
+    function test_spinnerCompletion() {
+        const unknown = 7, none = -1;
+        for (const [type, completions] of [[UTSpinner.Progress, 1], [UTSpinner.Loading, 1], [none, 1], [unknown, 1], [UTSpinner.Waiting, 0]]) {
+            const spinner = make("UTSpinner", { spinnerType: type });
+            const completed = spyOn(spinner, "spinnerCompleted");
+            for (const value of [0, 50, 99.9, 100, 100.1, -1, NaN])
+                spinner.currentValue = value;
+            compare(completed.count, completions, type);
+        }
     }
 
-    function test_spinnerCompletion(data) {
-        const spinner = make("UTSpinner", { spinnerType: data.type });
-        const completed = spyOn(spinner, "spinnerCompleted");
-        for (const value of [0, 50, 99.9, 100, 100.1, -1, NaN])
-            spinner.currentValue = value;
-        compare(completed.count, data.completions);
-    }
-
-    // The colours at four points of the ring: upper right, lower right, lower left and upper left.
-    function colors(spinner) {
-        const image = grabImage(spinner);
-        const near = 16 - 15 * Math.SQRT1_2, far = 32 - near;
-        return [[far, near], [far, far], [near, far], [near, near]].map(([x, y]) => image.pixel(x, y));
-    }
-
-    function isNear(color, name) {
-        const other = App.getColorSet(name).normal;
+    function isNear(color: color, other: color): bool {
         return Math.abs(color.r - other.r) + Math.abs(color.g - other.g) + Math.abs(color.b - other.b) < 0.5;
     }
 
     function test_spinnerRing_data() {
-        const progress = { c: "spinner-progress-cursor", t: "spinner-progress-track", d: "banner-style-success-text" };
-        const loading = { c: "spinner-loading-cursor", t: "spinner-loading-track" };
         // What is seen of cursor, track and done, clockwise from the upper right.
-        return table(["tag", "type", "value", "names", "ring"], [
-            ["progress 0", UTSpinner.Progress, 0, progress, "tttt"],
-            ["progress 50", UTSpinner.Progress, 50, progress, "cctt"],
-            ["progress 75", UTSpinner.Progress, 75, progress, "ccct"],
-            ["progress 100", UTSpinner.Progress, 100, progress, "dddd"],
-            ["loading 25", UTSpinner.Loading, 25, loading, "cttt"],
-            ["loading 100", UTSpinner.Loading, 100, loading, "cccc"]
+        return table(["tag", "type", "value", "ring"], [
+            ["progress 0", UTSpinner.Progress, 0, "tttt"],
+            ["progress 50", UTSpinner.Progress, 50, "cctt"],
+            ["progress 100", UTSpinner.Progress, 100, "dddd"],
+            ["loading 25", UTSpinner.Loading, 25, "cttt"],
+            ["loading 100", UTSpinner.Loading, 100, "cccc"]
         ]);
     }
 
     function test_spinnerRing(data) {
         const spinner = make("UTSpinner", { spinnerType: data.type, currentValue: data.value });
+        const kind = data.tag.split(" ")[0];
+        const names = { c: `spinner-${kind}-cursor`, t: `spinner-${kind}-track`, d: "banner-style-success-text" };
+        const near = 16 - 15 * Math.SQRT1_2, far = 32 - near;
+        const points = [[far, near], [far, far], [near, far], [near, near]];
         for (const theme of ["light", "dark"]) {
             ThemeManager.theme = theme;
-            tryVerify(() => colors(spinner).every((color, i) => isNear(color, data.names[data.ring[i]])), 3000, theme);
+            const expected = Array.from(data.ring, letter => App.getColorSet(names[letter]).normal);
+            tryVerify(() => {
+                const image = grabImage(spinner);
+                return points.every(([x, y], i) => isNear(image.pixel(x, y), expected[i]));
+            }, undefined, theme);
+        }
+    }
+
+    function test_spinnerWithoutRoomForItsLine() {
+        for (const width of [1, 2]) {
+            const painted = spyOn(make("UTSpinner", { spinnerType: UTSpinner.Progress, currentValue: 40, width }), "painted");
+            tryVerify(() => painted.count > 0);
         }
     }
 
@@ -121,13 +118,6 @@ ToolkitTestCase {
         }
     }
 
-    function test_spinnerWithoutRoomForItsLine() {
-        for (const width of [1, 2]) {
-            const painted = spyOn(make("UTSpinner", { spinnerType: UTSpinner.Progress, currentValue: 40, width: width }), "painted");
-            tryVerify(() => painted.count > 0);
-        }
-    }
-
     function test_announceLabel_data() {
         return table(["tag", "settings", "change", "said"], [
             ["text", {}, { text: "a" }, ["a"]],
@@ -164,10 +154,10 @@ ToolkitTestCase {
         compareProperties(label.toolTip, { tooltipText: "tip", isTooltipCustom: false });
     }
 
-    function test_sources_data() {
+    function test_sources() {
         const encoded = address => MediaPolicy.encode(address);
-        // loaders: whether those of still images and of films are active.
-        return table(["tag", "sources", "loaders"], [
+        // Whether the loaders of still images and of films are active after those sources.
+        for (const [why, sources, areActive] of [
             ["none", [], [false, false]],
             ["direct", [picture], [true, false]],
             ["encoded", [encoded(picture)], [true, false]],
@@ -176,36 +166,32 @@ ToolkitTestCase {
             ["film, then direct", [encoded(film), picture], [true, true]],
             ["image, then film", [encoded(picture), encoded(film)], [false, true]],
             ["film, then nothing", [encoded(film), ""], [false, true]]
-        ]);
-    }
-
-    function test_sources(data) {
-        const resource = make("UTDynamicResource", { width: 60, height: 40 });
-        for (const source of data.sources)
-            resource.imageSource = source;
-        const loaders = Array.from(resource.children);
-        compare(loaders.map(loader => loader.active), data.loaders);
-        compare(loaders.map(loader => loader.visible), data.loaders);
-    }
-
-    function test_resource_data() {
-        return table(["tag", "source", "fillMode"], [["still", picture, Image.Stretch], ["film", film, Image.PreserveAspectCrop]]);
-    }
-
-    function test_resource(data) {
-        const isFilm = data.source === film;
-        const resource = make("UTDynamicResource", { width: 60, height: 40, imageFillMode: data.fillMode, mirrorEnabled: true, fallbackImage: "qrc:/Resources/empty-inbox.svg" });
-        const loaded = spyOn(resource, "resourceLoaded");
-        resource.imageSource = MediaPolicy.encode(data.source);
-        for (const [theme, isDark] of [["dark", true], ["light", false]]) {
-            ThemeManager.theme = theme;
-            compare(resource.resourceUrl, `image://dynamic/?imageProviderUrl=${resource.imageSource}&isDark=${isDark}&fallbackImage=${resource.fallbackImage}`);
+        ]) {
+            const resource = make("UTDynamicResource", { width: 60, height: 40 });
+            for (const source of sources)
+                resource.imageSource = source;
+            const loaders = Array.from(resource.children);
+            compare(loaders.map(loader => loader.active), areActive, why);
+            compare(loaders.map(loader => loader.visible), areActive, why);
         }
-        const image = resource.children[isFilm ? 1 : 0].item.image;
-        tryVerify(() => isFilm ? image.movie : loaded.count === 1);
-        if (!isFilm)
-            compare(Array.from(loaded.signalArguments[0]), [320, 240]);
-        compareProperties(image, { fillMode: data.fillMode, mirror: true, visible: true, width: 60, height: 40 });
+    }
+
+    function test_resource() {
+        for (const [source, loaderIndex, fillMode] of [[picture, 0, Image.Stretch], [film, 1, Image.PreserveAspectCrop]]) {
+            const resource = make("UTDynamicResource", {
+                width: 60, height: 40, imageFillMode: fillMode, mirrorEnabled: true, fallbackImage: "qrc:/Resources/empty-inbox.svg"
+            });
+            const loaded = spyOn(resource, "resourceLoaded");
+            resource.imageSource = MediaPolicy.encode(source);
+            for (const theme of ["dark", "light"]) {
+                ThemeManager.theme = theme;
+                compare(resource.resourceUrl, `image://dynamic/?imageProviderUrl=${resource.imageSource}&isDark=${theme === "dark"}&fallbackImage=${resource.fallbackImage}`);
+            }
+            const image = resource.children[loaderIndex].item.image;
+            tryVerify(() => source === film ? image.movie : loaded.count === 1);
+            compare(loaded.signalArguments.map(args => Array.from(args)), source === film ? [] : [[320, 240]]);
+            compareProperties(image, { fillMode, mirror: true, visible: true, width: 60, height: 40 });
+        }
     }
 
     function test_stillPages() {
@@ -276,38 +262,32 @@ ToolkitTestCase {
         compare(moves.map(spy => spy.count), [0, 0]);
     }
 
-    function test_watermark_data() {
-        return table(["tag", "width", "height", "settings"], [
-            ["wide", 300, 100, {}],
-            ["high", 100, 300, {}],
-            ["size told", 200, 200, { watermarkSize: UTWatermarkEnum.Large }],
-            ["other way", 200, 200, { rotationAngle: 30 }],
-            ["straight", 200, 200, { rotationAngle: 0 }],
-            ["no room", 0, 0, {}]
-        ]);
-    }
+    function test_watermark() {
+        for (const [width, height, settings, actualWidth, actualHeight] of [
+            [300, 100, { watermarkSize: UTWatermarkEnum.Large }, 336, 174],
+            [100, 300, {}, 181, 315],
+            [200, 100, { rotationAngle: 30 }, 280, 186],
+            [0, 0, {}, 0, 0]
+        ]) {
+            const ground = make("KItem", { width, height });
+            const watermark = make("UTWatermark", Object.assign({ contentText: "secret" }, settings), ground);
+            compareProperties(watermark, { actualWidth, actualHeight });
 
-    function test_watermark(data) {
-        const ground = make("KItem", { width: data.width, height: data.height });
-        const watermark = make("UTWatermark", Object.assign({ contentText: "secret" }, data.settings), ground);
-        const angle = Math.abs(data.settings.rotationAngle ?? -15) * Math.PI / 180;
-        fuzzyCompare(watermark.actualWidth, data.width / Math.cos(angle) + data.height * Math.sin(angle), 1);
-        fuzzyCompare(watermark.actualHeight, (data.height + data.width * Math.tan(angle)) * Math.cos(angle), 1);
-
-        const [measure, grid] = Array.from(watermark.children);
-        const rows = Array.from(grid.children).filter(row => row.spacing === 72);
-        compare(rows.length, Math.ceil(watermark.actualHeight / (measure.height + 100)));
-        for (const [i, row] of rows.entries()) {
-            const cells = Array.from(row.children).filter(cell => cell.opacity === 0.1);
-            compare(cells.length, Math.ceil(watermark.actualWidth / (measure.width + 72)));
-            compare(row.leftPadding, i % 2 * (measure.width + 72) / 2);
-            const { width, height } = cells[0];
-            const [black, white] = Array.from(cells[0].children);
-            compare([width, height], [measure.width + 72, measure.height + 100]);
-            compareProperties(black, { color: "#000000", x: width - black.width - 1, y: height - black.height - 1 });
-            compareProperties(white, { color: "#ffffff", x: width - white.width, y: height - white.height, text: "secret" });
+            const [measure, grid] = Array.from(watermark.children);
+            const cellWidth = measure.width + 72, cellHeight = measure.height + 100;
+            const rows = Array.from(grid.children).filter(row => row.spacing === 72);
+            compare(rows.length, Math.ceil(actualHeight / cellHeight));
+            for (const [i, row] of rows.entries()) {
+                const cells = Array.from(row.children).filter(cell => cell.opacity === 0.1);
+                compare(cells.length, Math.ceil(actualWidth / cellWidth));
+                compare(row.leftPadding, i % 2 * cellWidth / 2);
+                compareProperties(cells[0], { width: cellWidth, height: cellHeight });
+                const [black, white] = Array.from(cells[0].children);
+                compareProperties(black, { color: "#000000", x: cellWidth - black.width - 1, y: cellHeight - black.height - 1 });
+                compareProperties(white, { color: "#ffffff", x: cellWidth - white.width, y: cellHeight - white.height, text: "secret" });
+            }
+            watermark.contentText = "";
+            tryCompare(grid, "height", 0);
         }
-        watermark.contentText = "";
-        tryCompare(grid, "height", 0);
     }
 }

@@ -7,7 +7,7 @@ ToolkitTestCase {
 
     name: "FocusRing"
 
-    property var ring
+    readonly property Item topMost: Window.contentItem
 
     Item {
         id: outer
@@ -26,9 +26,6 @@ ToolkitTestCase {
     Item { id: other; activeFocusOnTab: true }
     Item { id: host; x: 3; y: 4; width: 390; height: 290 }
     FocusScope { id: focusScope; x: 200; y: 200; width: 50; height: 30 }
-
-    // The settings may be mirrored with what they lie in.
-    Item { id: mirrored; LayoutMirroring.childrenInherit: true }
     Item { id: blank; x: 100; y: 200; width: 90; height: 40 }
 
     // Draws the outlines with the drawing library alone, to compare with what the ring's canvas shows.
@@ -54,39 +51,22 @@ ToolkitTestCase {
         }
     }
 
-    function init() {
-        failOnWarning(/.?/);
-        other.forceActiveFocus();
-        ring = make("KCustomFocusItem", {}, focusable);
-    }
-
-    function cleanup() {
-        ThemeManager.theme = "light";
-        App.isKeyboardFocus = false;
-        mirrored.LayoutMirroring.enabled = false;
-    }
-
-    function topMost(): Item {
-        let item = testCase;
-        while (item.parent)
-            item = item.parent;
-        return item;
-    }
-
     // What holds the canvas in parentItem, or null.
     function loaderIn(parentItem: Item): Item {
         return Array.from(parentItem.children).find(child => child.item && child.item instanceof KFocusItemCanvas) ?? null;
     }
 
-    function show() {
+    function showRing(): var {
+        const ring = make("KCustomFocusItem", {}, focusable);
         focusable.forceActiveFocus();
         App.isKeyboardFocus = true;
         verify(ring.visible);
+        return ring;
     }
 
     // Compares the rectangle of the ring that shows in parentItem, in the test case's coordinates.
     function compareRing(expected: rect, parentItem: var): void {
-        const loader = loaderIn(parentItem ?? topMost());
+        const loader = loaderIn(parentItem ?? topMost);
         verify(loader && loader.visible);
         compareProperties(loader, { "item.width": loader.width, "item.height": loader.height });
         const position = loader.parent.mapToItem(testCase, loader.x, loader.y);
@@ -94,26 +74,29 @@ ToolkitTestCase {
     }
 
     function test_onlyForKeyboardFocus() {
+        other.forceActiveFocus();
         App.isKeyboardFocus = true;
+        const ring = make("KCustomFocusItem", {}, focusable);
         verify(!ring.visible, "no focus");
         mousePress(focusable);
         focusable.forceActiveFocus();
         mouseRelease(focusable);
         verify(!ring.visible, "focus gained by mouse");
-        compare(loaderIn(topMost()), null);
+        compare(loaderIn(topMost), null);
 
         App.isKeyboardFocus = true;
         verify(ring.visible);
-        verify(loaderIn(topMost()));
+        verify(loaderIn(topMost));
 
         other.forceActiveFocus();
         verify(!ring.visible);
-        compare(loaderIn(topMost()), null, "the ring is taken down");
+        compare(loaderIn(topMost), null, "the ring is taken down");
         compareProperties(ring, { "children.length": 1, "children.0.item": null });
 
-        show();
+        focusable.forceActiveFocus();
+        verify(loaderIn(topMost));
         outer.visible = false;
-        compare(loaderIn(topMost()), null, "hidden with its ancestor");
+        compare(loaderIn(topMost), null, "hidden with its ancestor");
         outer.visible = true;
     }
 
@@ -123,7 +106,7 @@ ToolkitTestCase {
         const late = make("KCustomFocusItem", {}, focusScope);
         compareRing(Qt.rect(195, 195, 60, 40));
         late.destroy();
-        tryVerify(() => !loaderIn(topMost()));
+        tryVerify(() => !loaderIn(topMost));
     }
 
     function test_follows_data() {
@@ -140,8 +123,8 @@ ToolkitTestCase {
     }
 
     function test_follows(data) {
+        const ring = showRing();
         const item = data.item ?? ring;
-        show();
         for (const hides of [false, true]) {
             compareRing(Qt.rect(30, 46, 90, 40));
             // Hidden it does not follow, and shows in the right place all the same.
@@ -154,9 +137,9 @@ ToolkitTestCase {
     }
 
     function test_designatedParent() {
+        const ring = showRing();
         ring.designatedParent = host;
-        show();
-        compare(loaderIn(topMost()), null);
+        compare(loaderIn(topMost), null);
         for (const parentItem of [host, outer, undefined, testCase]) {
             ring.designatedParent = parentItem;
             compareRing(Qt.rect(30, 46, 90, 40), parentItem);
@@ -168,8 +151,9 @@ ToolkitTestCase {
 
     // A canvas with those settings. grabImage takes an item's position for one in the window, so only the canvas
     // has one other than (0, 0).
-    function canvasOf(values: var): var {
-        const settings = make("KBasicFocusItem", values, mirrored);
+    function canvasOf(values: var, isMirrored: bool): var {
+        const settings = make("KBasicFocusItem", values);
+        settings.LayoutMirroring.enabled = isMirrored;
         return make("KFocusItemCanvas", { focusItem: settings, x: 250, y: 200, width: 90, height: 40 }, settings);
     }
 
@@ -196,15 +180,14 @@ ToolkitTestCase {
     function test_outlines(data) {
         // On the test's white window the light theme's inner line would not be seen.
         ThemeManager.theme = "dark";
-        mirrored.LayoutMirroring.enabled = data.tag === "mirrored";
-        const canvas = canvasOf(data.values);
+        const canvas = canvasOf(data.values, data.tag === "mirrored");
         const reference = createTemporaryObject(referenceComponent, testCase, { row: data });
         tryVerify(() => !grabImage(reference).equals(grabImage(blank)));
         tryVerify(() => grabImage(canvas).equals(grabImage(reference)));
     }
 
     function test_repaintsWithThemeAndSettings() {
-        const canvas = canvasOf({});
+        const canvas = canvasOf({}, false);
         const settings = canvas.focusItem;
         const middle = theme => App.getColorSet("global-focus-outline", theme).normal;
         for (const [theme, themeType, expected] of [

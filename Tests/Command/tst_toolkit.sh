@@ -18,7 +18,6 @@ log=$area/log
 output=$area/output
 failures=0
 status=0
-through=()
 
 # --- The stage ----------------------------------------------------------------------------------------------------
 
@@ -67,19 +66,12 @@ set_stage() {
         exec "$@"'
 }
 
-# run [NAME=VALUE...] [-- ARGUMENTS...]: ./toolkit ARGUMENTS, with its output and exit status kept; by way of the program
-# ${through[@]} if that is set.
+# run [NAME=VALUE...] ./toolkit ARGUMENTS...: runs that in the tree, with its output and exit status kept.
 run() {
-    local variables=()
-    while (($#)) && [[ $1 != -- ]]; do
-        variables+=("$1")
-        shift
-    done
-    shift
     : >"$log"
     status=0
     (cd "$tree" && env -i PATH="$area/bin:$area/tools" HOME="$area/home" UITOOLKIT_OS_RELEASE="$area/os-release" \
-        "${variables[@]}" "${through[@]}" ./toolkit "$@" >"$output" 2>&1 </dev/null) || status=$?
+        "$@" >"$output" 2>&1 </dev/null) || status=$?
 }
 
 # --- What is checked ----------------------------------------------------------------------------------------------
@@ -118,7 +110,7 @@ test_what_cannot_be_done_is_refused_in_one_line_before_anything_is_started() {
         "install --prefix /a /b" setup "setup nonsense" "shots a b" "--debian13 shots /var/pictures" \
         "--debian13 install --prefix=/usr"; do
         # shellcheck disable=SC2086 # the words are arguments
-        run -- $arguments
+        run ./toolkit $arguments
         expect status 2 idle .
         [[ $(wc -l <"$output") == 1 ]] || fail "\"$arguments\" is not answered in one line"
     done
@@ -126,16 +118,16 @@ test_what_cannot_be_done_is_refused_in_one_line_before_anything_is_started() {
 
 test_other_systems_are_refused_and_derived_ones_are_not() {
     echo 'ID=fedora' >"$area/os-release"
-    run -- build
+    run ./toolkit build
     expect status 2 output "not Debian" idle .
 
     printf 'ID=ubuntu\nID_LIKE=debian\nVERSION_ID=24.04\n' >"$area/os-release"
-    run -- build
+    run ./toolkit build
     expect status 0 started "cmake --build $tree/build/ubuntu-24.04"
 }
 
 test_only_missing_packages_are_installed_and_they_are_named() {
-    run -- test
+    run ./toolkit test
     expect status 0 idle apt-get
 
     stand_in dpkg-query 'shift 2
@@ -143,76 +135,75 @@ test_only_missing_packages_are_installed_and_they_are_named() {
             case $package in ninja-build) ;; xvfb) echo "xvfb config-files" ;; *) echo "$package installed" ;; esac
         done'
     local install="apt-get .*install --yes --no-install-recommends"
-    run -- test
+    run ./toolkit test
     expect status 0 output "installing from the system's packages: ninja-build xvfb" started "$install ninja-build xvfb$"
     # A build needs no display.
-    run -- build
+    run ./toolkit build
     expect started "$install ninja-build$"
 }
 
 test_installing_that_fails_ends_the_command() {
     stand_in dpkg-query
     stand_in apt-get '[[ $* != *install* ]]'
-    run -- build
+    run ./toolkit build
     expect status 1 output "installing failed" idle cmake
 
     # A package list that cannot be renewed does not: the one at hand may do.
     stand_in apt-get '[[ $* != *update* ]]'
-    run -- build
+    run ./toolkit build
     expect status 0
 }
 
 test_without_a_way_to_become_root_nothing_is_installed() {
-    local through=()
+    local without_rights=()
     if ((EUID == 0)); then
         command -v setpriv >/dev/null || return
-        through=("$(command -v setpriv)" --reuid 65534 --clear-groups)
+        without_rights=("$(command -v setpriv)" --reuid 65534 --clear-groups)
         chmod 755 "$area"
         chmod 666 "$log"
     fi
     stand_in dpkg-query
     rm "$area/bin/sudo"
-    run -- build
+    run "${without_rights[@]}" ./toolkit build
     expect status 2 output "needs root" idle apt-get
 }
 
 test_only_a_changed_or_copied_tree_is_configured_again() {
     local configure="cmake --preset debug -B" build="cmake --build"
-    run -- build
+    run ./toolkit build
     expect started "$configure $tree/build/somewhere"
-    run -- build
+    run ./toolkit build
     expect status 0 idle "$configure" started "$build $tree/build/somewhere"
 
     touch -d "+1 minute" "$tree/CMakePresets.json"
-    run -- build
+    run ./toolkit build
     expect started "$configure"
 
     touch "$tree/build/somewhere/left-over"
     mv "$tree" "$area/moved"
-    tree=$area/moved run -- build
+    tree=$area/moved run ./toolkit build
     expect status 0
     [[ ! -e $area/moved/build/somewhere/left-over ]] || fail "the old build folder is still used"
 }
 
 test_arguments_and_failures_come_through() {
-    run -- test -R "two words"
+    run ./toolkit test -R "two words"
     expect status 0 started "ctest .*--output-on-failure --no-tests=error .*-R two words$"
-    run BUILD_STATUS=1 -- test
+    run BUILD_STATUS=1 ./toolkit test
     expect status 1 idle ctest
-    local command
-    for command in test sanitize; do
-        run CTEST_STATUS=8 -- $command
-        expect status 1 started ctest
-    done
+    run CTEST_STATUS=8 ./toolkit test
+    expect status 1 started ctest
+    run CTEST_STATUS=8 ./toolkit sanitize
+    expect status 1 started ctest
 }
 
 test_without_a_display_the_gallery_is_drawn_to_pictures() {
     local shots=$tree/build/somewhere/shots
-    run -- gallery
+    run ./toolkit gallery
     expect status 0 started "xvfb-run .*gallery --shots $shots" output "$shots/contact-light.png"
-    run -- gallery --page UTButton --shot one.png
+    run ./toolkit gallery --page UTButton --shot one.png
     expect started "xvfb-run .*gallery --page UTButton --shot one.png"
-    run DISPLAY=:7 -- gallery --page UTButton
+    run DISPLAY=:7 ./toolkit gallery --page UTButton
     expect started "cmake-gallery --page UTButton" idle xvfb-run
 }
 
@@ -220,11 +211,11 @@ test_formatting_leaves_alone_what_git_ignores() {
     printf 'build/\n' >"$tree/.gitignore"
     mkdir -p "$tree/build" "$tree/A folder"
     touch "$tree/build/generated.cpp" "$tree/A folder/New.cpp" "$tree/Kept.h" "$tree/Gone.cpp" "$tree/Other.qml"
-    run -- format
+    run ./toolkit format
     expect started "clang-format-19 .*A folder/New.cpp" started "clang-format-19 .*Kept.h" idle ".*(generated|qml)"
 
     (cd "$tree" && git init -q && git add -A && rm Gone.cpp)
-    run -- format
+    run ./toolkit format
     expect started "clang-format-19 .*A folder/New.cpp" idle ".*(generated|qml|Gone)"
 }
 
@@ -232,29 +223,29 @@ test_the_debian_13_system_is_made_once_and_only_when_complete_bears_its_name() {
     local root=$area/home/.cache/uitoolkit/debian13
     mkdir -p "$root/half" "$root.unfinished/half"
 
-    run -- --debian13 build
+    run ./toolkit --debian13 build
     expect status 2 output "was not made by this command"
     [[ -d $root/half ]] || fail "what somebody else made is removed"
 
     touch "$root/.uitoolkit-root-0"
-    run DEBOOTSTRAP_STATUS=1 -- --debian13 build
+    run DEBOOTSTRAP_STATUS=1 ./toolkit --debian13 build
     expect status 1
     [[ ! -e $root ]] || fail "a half-made system bears the name of a whole one"
 
-    run -- --debian13 build
+    run ./toolkit --debian13 build
     expect status 0 started debootstrap started "unshare .*--enter $root "
     [[ -d $root/usr/sbin && ! -e $root/half && ! -e $root.unfinished ]] || fail "the new system is not in its place"
 
-    run -- --debian13 build
+    run ./toolkit --debian13 build
     expect idle debootstrap started "unshare .*--enter $root $tree /uitoolkit .*-- build$"
 }
 
 test_folders_in_the_work_tree_have_another_name_inside_the_debian_13_system() {
-    run -- --debian13 shots "$tree/pictures"
+    run ./toolkit --debian13 shots "$tree/pictures"
     expect started "unshare .*-- shots /uitoolkit/pictures$"
-    run -- --debian13 shots /tmp/pictures
+    run ./toolkit --debian13 shots /tmp/pictures
     expect started "unshare .*-- shots /tmp/pictures$"
-    run -- --debian13 install "--prefix=$tree/out"
+    run ./toolkit --debian13 install "--prefix=$tree/out"
     expect started "unshare .*-- install --prefix=/uitoolkit/out$"
 }
 

@@ -92,14 +92,18 @@ public:
     int surplus = 0; // rows without data
 };
 
-void setUp(UTListData &data, const QVariant &model)
+//! The data of a list of such rows.
+struct RowsData : UTListData
 {
-    data.setItemTypeRole(u"kind"_s);
-    data.setDisplayRole(u"name"_s);
-    data.setSectionRole(QVariantList{Group, Sign});
-    data.setUnSelectable(QVariantList{Group, Divider});
-    data.setModel(model);
-}
+    explicit RowsData(Rows &model)
+    {
+        setItemTypeRole(u"kind"_s);
+        setDisplayRole(u"name"_s);
+        setSectionRole(QVariantList{Group, Sign});
+        setUnSelectable(QVariantList{Group, Divider});
+        setModel(QVariant::fromValue(&model));
+    }
+};
 
 //! What is said of the list and of each row, and where the keys lead from there: "!" is into another group. The
 //! places before and behind the list count, too.
@@ -154,8 +158,7 @@ private Q_SLOTS:
         QFETCH(int, module);
         QFETCH(bool, clear);
         Rows model(rows);
-        UTListData data;
-        setUp(data, QVariant::fromValue(&model));
+        RowsData data(model);
         data.setSourceModule(module);
         data.setIsClearMode(clear);
         const int last = int(rows.size()) - 1;
@@ -180,8 +183,7 @@ private Q_SLOTS:
     void everyRow()
     {
         Rows model(u"||-|||--A-|s-#|-|"_s);
-        UTListData data;
-        setUp(data, QVariant::fromValue(&model));
+        RowsData data(model);
         QCOMPARE(everything(data, model),
                  u"4 Groups; -1 <  > 2!; " // before the list
                  "-1 < 1 of 3 > 2; -1 < 1 of 3 > 2; -1 < *1 of 3 > 6; 2 < 2 of 3 > 6; 2 < 2 of 3 > 6; 2 < 2 of 3 > 6; "
@@ -205,8 +207,7 @@ private Q_SLOTS:
             return rows;
         };
         Rows model;
-        UTListData data;
-        setUp(data, QVariant::fromValue(&model));
+        RowsData data(model);
         for (int step = 0; step < 600; ++step) {
             const int count = int(model.rows.size());
             const int first = below(qMax(count, 1));
@@ -221,8 +222,7 @@ private Q_SLOTS:
                 model.change(first, someRows(1)[0]);
             else
                 model.reset(someRows(below(40)));
-            UTListData afresh;
-            setUp(afresh, QVariant::fromValue(&model));
+            RowsData afresh(model);
             QVERIFY2(everything(data, model) == everything(afresh, model),
                      qPrintable(u"seed %1, step %2: %3"_s.arg(seed).arg(step).arg(model.rows)));
         }
@@ -295,9 +295,8 @@ private Q_SLOTS:
 
     void liars()
     {
-        UTListData data;
         auto model = std::make_unique<Rows>(u"A--B-"_s);
-        setUp(data, QVariant::fromValue(model.get()));
+        RowsData data(*model);
         const int wild[] = {std::numeric_limits<int>::min(), -2, -1, 5, 1000, std::numeric_limits<int>::max()};
         // Signals about rows that do not exist, and rows that come without one.
         for (const int row : wild) {
@@ -329,8 +328,7 @@ private Q_SLOTS:
     void signalOnlyForNews()
     {
         Rows model(u"A--"_s);
-        UTListData data;
-        setUp(data, QVariant::fromValue(&model));
+        RowsData data(model);
         const QSignalSpy news(&data, &UTListData::listDescritpionChanged);
         model.insert(1, u"--"_s);
         data.setCurrentIndex(2);

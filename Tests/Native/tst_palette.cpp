@@ -23,11 +23,6 @@ const QStringList themes{u"light"_s, u"dark"_s, u"highContrast"_s};
 // Every state but disabled.
 const QStringList readableStates{u"normal"_s, u"hovered"_s, u"pressed"_s, u"focused"_s, u"checked"_s};
 
-AppThemeType typeOf(const QString &theme)
-{
-    return KThemeUtils::stringToThemeType(theme);
-}
-
 //! One text or a list of texts.
 QStringList texts(const QJsonValue &value)
 {
@@ -83,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(std::is_sorted(m_names.begin(), m_names.end()) && m_names.contains(u"transparent"_s));
         for (const QString &name : m_names) {
             for (const QString &theme : themes) {
-                const KColorSet set = KThemeUtils::getColorSet(name.toUtf8(), typeOf(theme));
+                const KColorSet set = KThemeUtils::getColorSet(name.toUtf8(), KThemeUtils::stringToThemeType(theme));
                 QVERIFY2(set.isValid() && set.name() == name, qPrintable(name));
                 for (int state = 0; name == "transparent"_L1 && state < KColorSet::StateCount; ++state)
                     QCOMPARE(set.color(KColorSet::State(state)).alpha(), 0);
@@ -134,7 +129,7 @@ private Q_SLOTS:
 
         // The compiled table and the files that an application's own palette is laid over are one.
         for (int theme = 0; theme < KPaletteThemeCount; ++theme) {
-            const AppThemeType type = typeOf(KPaletteReader::themeName(KPaletteTheme(theme)));
+            const AppThemeType type = KThemeUtils::stringToThemeType(KPaletteReader::themeName(KPaletteTheme(theme)));
             QCOMPARE(table[std::size_t(theme)].size(), m_names.size());
             for (auto set = table[std::size_t(theme)].begin(); set != table[std::size_t(theme)].end(); ++set) {
                 for (int state = 0; state < KColorSet::StateCount; ++state)
@@ -154,7 +149,7 @@ private Q_SLOTS:
     void contrast()
     {
         QFETCH(QString, theme);
-        const AppThemeType type = typeOf(theme);
+        const AppThemeType type = KThemeUtils::stringToThemeType(theme);
         const QJsonObject surfaces = m_pairFile["surfaces"_L1].toObject();
         const QJsonArray pairs = m_pairFile["pairs"_L1].toArray();
         // Of each pair and state the worst surface.

@@ -92,32 +92,30 @@ ToolkitTestCase {
         compare(button.log, "rpc");
     }
 
-    function test_pillContent_data() {
-        // Where the parts begin, with icons of 20 and a spacing of 6 in 168 pixels between the paddings.
-        return table(["tag", "properties", "left", "right", "mirrored"], [
-            ["apart", { alignment: Text.AlignLeft }, 0, 148, false],
-            ["together on the left", { alignment: Text.AlignLeft, isIconAlignText: true }, 0, undefined, false],
-            ["together on the right", { alignment: Text.AlignRight, isIconAlignText: true }, undefined, 148, false],
-            ["mirrored", { alignment: Text.AlignLeft }, 148, 0, true]
-        ]);
-    }
-
-    function test_pillContent(row) {
-        const button = makeButton(Object.assign({ width: 200, leftIcon: "link-bold", rightIcon: "copy-bold" }, row.properties));
-        button.LayoutMirroring.enabled = row.mirrored;
-        button.LayoutMirroring.childrenInherit = true;
-        const label = button.contentItem;
-        const [left, right] = [button.parts.leftIcon, button.parts.rightIcon];
-        for (const [part, x] of [[left, row.left], [right, row.right]])
-            tryCompare(part, "x", x ?? part.x);
-        if (row.properties.isIconAlignText)
-            fuzzyCompare(right.x - left.x, 20 + 6 + label.contentWidth + 6, 1);
-        compare([label.leftPadding, label.rightPadding], [26, 26]);
-        button.rightIcon = "";
-        verify(!right.visible);
-        compare(row.mirrored ? label.leftPadding : label.rightPadding, 0);
-        button.rightIcon = "link-bold";
-        compare(button.parts.rightIcon, right);
+    // Where the parts begin, with icons of 20 and a spacing of 6 in 168 pixels between the paddings.
+    function test_pillContent() {
+        for (const [properties, isMirrored, leftX, rightX] of [
+            [{ alignment: Text.AlignLeft }, false, 0, 148],
+            [{ alignment: Text.AlignLeft }, true, 148, 0],
+            [{ alignment: Text.AlignLeft, isIconAlignText: true }, false, 0, undefined],
+            [{ alignment: Text.AlignRight, isIconAlignText: true }, false, undefined, 148]
+        ]) {
+            const button = makeButton(Object.assign({ width: 200, leftIcon: "link-bold", rightIcon: "copy-bold" }, properties));
+            button.LayoutMirroring.enabled = isMirrored;
+            button.LayoutMirroring.childrenInherit = true;
+            const label = button.contentItem;
+            const { leftIcon, rightIcon } = button.parts;
+            for (const [icon, x] of [[leftIcon, leftX], [rightIcon, rightX]])
+                tryCompare(icon, "x", x ?? icon.x);
+            if (properties.isIconAlignText)
+                fuzzyCompare(rightIcon.x - leftIcon.x, 20 + 6 + label.contentWidth + 6, 1);
+            compare([label.leftPadding, label.rightPadding], [26, 26]);
+            button.rightIcon = "";
+            verify(!rightIcon.visible);
+            compare(isMirrored ? label.leftPadding : label.rightPadding, 0);
+            button.rightIcon = "link-bold";
+            compare(button.parts.rightIcon, rightIcon);
+        }
     }
 
     function test_pillElidesOnlyWhenAligned() {

@@ -29,25 +29,7 @@ ToolkitTestCase {
         }
     }
 
-    function test_derivedButtonsKeepTheirData_data() {
-        return ["UTRoundButton", "UTMultilinePillButton", "UTIconButton", "UTRectangleButton", "UTTextButton", "UTBlockButton", "UTChip"]
-            .map(tag => ({ tag }));
-    }
-
-    // A warning would fail it: the data object of a derived type must still be that of the component.
-    function test_derivedButtonsKeepTheirData(row) {
-        const source = "import UIToolkitQml 1.0; %1 { property int extra; text: \"Text\"; width: 120; onClicked: extra += 1 }".arg(row.tag);
-        const button = createTemporaryQmlObject(source, testCase);
-        tryVerify(() => button.implicitHeight > 0);
-        mouseClick(button, 20, button.height / 2);
-        compare(button.extra, 1);
-        ThemeManager.theme = "highContrast";
-        button.enabled = false;
-        App.textScale = 1.5;
-        tryVerify(() => button.implicitHeight > 0);
-    }
-
-    function test_focusRings_data() {
+    function test_derived_data() {
         return table(["tag", "properties", "ring"], [
             ["UTRoundButton", { customFocusRect: Qt.rect(1, 2, 30, 40) }, { isRectangle: false, customRect: Qt.rect(1, 2, 30, 40) }],
             ["UTMultilinePillButton", { innerFocusBorder: true }, { isRectangle: false, innerFocusBorder: true }],
@@ -59,14 +41,25 @@ ToolkitTestCase {
         ]);
     }
 
-    function test_focusRings(row) {
-        const button = make(row.tag, Object.assign({ text: "Text", themeType: "dark" }, row.properties));
+    // A warning would fail it: the data object of a derived type must still be that of the component.
+    function test_derived(row) {
+        const source = "import UIToolkitQml 1.0; %1 { property int extra; text: 'Text'; width: 120; themeType: 'dark'; onClicked: extra += 1 }".arg(row.tag);
+        const button = Object.assign(createTemporaryQmlObject(source, testCase), row.properties);
+        tryVerify(() => button.implicitHeight > 0);
+        mouseClick(button, 20, button.height / 2);
+        compare(button.extra, 1);
+
         App.isKeyboardFocus = true;
         button.forceActiveFocus(Qt.TabFocusReason);
         const ring = button.parts.focusRing;
         compareProperties(ring, Object.assign({ visible: true, themeType: "dark" }, row.ring));
         button.themeType = "global";
         compare(ring.themeType, "global");
+
+        ThemeManager.theme = "highContrast";
+        button.enabled = false;
+        App.textScale = 1.5;
+        tryVerify(() => button.implicitHeight > 0);
     }
 
     function test_iconButtonToggles() {

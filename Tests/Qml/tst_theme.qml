@@ -12,27 +12,13 @@ ToolkitTestCase {
     readonly property QtObject accessibleKeys: AccessibleConstants
 
     // An interactive thing whose state labels and backgrounds follow.
-    component Target: Item {
+    Item {
+        id: target
+
         property bool hovered: false
         property bool pressed: false
         property bool checked: false
     }
-
-    // Its root's properties are in the context of all that it creates.
-    component DarkSurface: Item {
-        property string themeMode: "dark"
-
-        KRectangle {}
-        KText {}
-        KPane {}
-        KSvgIcon {}
-        KGradientRectangle {}
-        KGradientRectangleRoundCorner {}
-        KBasicFocusItem {}
-    }
-
-    Target { id: target }
-    DarkSurface { id: darkSurface }
     Rectangle { id: card; y: 200; z: 3; width: 100; height: 50; radius: 8 }
     FontMetrics { id: fontMetrics; font: FontConstants.bannerPrimary }
 
@@ -128,9 +114,13 @@ ToolkitTestCase {
         }
     }
 
+    // A root's properties are in the context of all that it creates.
     function test_themeModeOfTheContext() {
-        compare(Array.from(darkSurface.children).map(child => child.themeType), Array(7).fill("dark"));
-        compare(darkSurface.children[0].color, App.getColorSet("background-primary", "dark").normal);
+        const types = ["KRectangle", "KText", "KPane", "KSvgIcon", "KGradientRectangle", "KGradientRectangleRoundCorner", "KBasicFocusItem"];
+        const root = "import QtQuick; import UIToolkitQml 1.0; Item { property string themeMode: 'dark'; %1 }".arg(types.map(type => type + " {}").join(" "));
+        const surface = createTemporaryQmlObject(root, testCase);
+        compare(Array.from(surface.children).map(child => child.themeType), Array(types.length).fill("dark"));
+        compare(surface.children[0].color, App.getColorSet("background-primary", "dark").normal);
     }
 
     function test_borders() {

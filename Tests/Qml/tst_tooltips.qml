@@ -24,21 +24,22 @@ ToolkitTestCase {
         return Boolean(tip.tooltipItem && tip.tooltipItem.parent && tip.tooltipWindow.visible);
     }
 
-    function test_look_data() {
-        return table(["tag", "type", "properties", "smallest", "largest"], [
-            ["letter", "NativeToolTip", { tooltipText: "a" }, Qt.size(20, 20), Qt.size(20, 24)],
-            ["long", "NativeToolTip", { tooltipText: "word ".repeat(40), maximumWidth: 308, maximumLineCount: -1 }, Qt.size(280, 60), Qt.size(316, 200)],
-            ["endless word", "NativeToolTip", { tooltipText: "w".repeat(200), maximumWidth: 308, maximumLineCount: -1 }, Qt.size(280, 60), Qt.size(316, 200)],
-            ["three lines", "NativeToolTip", { tooltipText: "a\nb\nc\nd\ne" }, Qt.size(20, 40), Qt.size(40, 60)],
-            ["markup", "NativeToolTip", { tooltipText: "<b>a</b>" }, Qt.size(40, 20), Qt.size(90, 24)],
-            ["balloon", "CustomToolTip", { tooltipText: "word ".repeat(40), maximumLineCount: -1 }, Qt.size(250, 90), Qt.size(302, 300)]
-        ]);
-    }
-
-    function test_look(data) {
-        const tip = make(data.type, data.properties);
-        verify(tip.width >= data.smallest.width && tip.width <= data.largest.width, tip.width);
-        verify(tip.height >= data.smallest.height && tip.height <= data.largest.height, tip.height);
+    function test_look() {
+        const paragraph = "word ".repeat(40);
+        const endless = "w".repeat(200);
+        for (const [type, properties, smallest, largest] of [
+            ["NativeToolTip", { tooltipText: "a" }, Qt.size(20, 20), Qt.size(20, 24)],
+            ["NativeToolTip", { tooltipText: paragraph, maximumWidth: 308, maximumLineCount: -1 }, Qt.size(280, 60), Qt.size(316, 200)],
+            ["NativeToolTip", { tooltipText: endless, maximumWidth: 308, maximumLineCount: -1 }, Qt.size(280, 60), Qt.size(316, 200)],
+            ["NativeToolTip", { tooltipText: "a\nb\nc\nd\ne" }, Qt.size(20, 40), Qt.size(40, 60)],
+            ["NativeToolTip", { tooltipText: "<b>a</b>" }, Qt.size(40, 20), Qt.size(90, 24)],
+            ["CustomToolTip", { tooltipText: paragraph, maximumLineCount: -1 }, Qt.size(250, 90), Qt.size(302, 300)]
+        ]) {
+            const { width, height } = make(type, properties);
+            const message = "%1, \"%2\": %3 x %4".arg(type).arg(properties.tooltipText).arg(width).arg(height);
+            verify(width >= smallest.width && width <= largest.width, message);
+            verify(height >= smallest.height && height <= largest.height, message);
+        }
     }
 
     function test_balloonMakesRoomForItsArrow() {
@@ -126,23 +127,16 @@ ToolkitTestCase {
         verify(isShown(tip));
     }
 
-    function test_destruction_data() {
-        return table(["tag", "make", "isShown"], [
-            ["pending", makeTip, false],
-            ["shown", makeTip, true],
-            ["wrapper pending", makeWrapper, false],
-            ["wrapper shown", makeWrapper, true]
-        ]);
-    }
-
-    function test_destruction(data) {
-        const tip = data.make({ active: true });
-        if (data.isShown)
-            tryVerify(() => tip.tooltipItem !== null);
-        const gone = spyOn(tip.Component, "destruction");
-        tip.destroy();
-        tryCompare(gone, "count", 1);
-        compare(ToolTipManager.currentOwner, null);
+    function test_destruction() {
+        for (const [makeOne, shows] of [[makeTip, false], [makeTip, true], [makeWrapper, false], [makeWrapper, true]]) {
+            const tip = makeOne({ active: true });
+            if (shows)
+                tryVerify(() => tip.tooltipItem !== null);
+            const gone = spyOn(tip.Component, "destruction");
+            tip.destroy();
+            tryCompare(gone, "count", 1);
+            compare(ToolTipManager.currentOwner, null);
+        }
     }
 
     function test_wrapperWaits() {

@@ -16,7 +16,7 @@ Rectangle {
     //! In pixels; a longer text is elided.
     property real maximumTextWidth
     //! Whether there is an icon before it.
-    property bool hasIcon: false
+    property bool hasIcon
     readonly property Text label: parent as Text
     readonly property int spacing: 6
     readonly property int inset: 4

@@ -14,7 +14,7 @@ UTToolTip {
     id: tip
 
     required property UTTextButton control
-    property bool isOpen: false
+    property bool isOpen
     readonly property bool isAttended: control.hovered || control.activeFocus
 
     function toggle(): void {

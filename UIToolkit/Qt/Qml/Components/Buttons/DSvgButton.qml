@@ -19,7 +19,7 @@ KButton {
     property real iconWidth: 12
     property string iconColorSetName: "buttonText-secondary"
     //! Shows the picture of icon.source in its own colours, instead of the icon of icon.name.
-    property bool showSvgIconOriginalColor: false
+    property bool showSvgIconOriginalColor
 
     horizontalAlignment: alignment
     radius: height / 2

@@ -25,11 +25,11 @@ UTButtonBase {
     property int verticalAlignment: Text.AlignVCenter
     //! In pixels.
     property real borderWidth: 1
-    property real radius: 0
+    property real radius
     //! Gives the button square corners, whatever its radius.
-    property bool isRectangle: false
+    property bool isRectangle
     //! Shows the button as pressed, as while what it opened is open.
-    property bool isPressed: false
+    property bool isPressed
     //! The label, for what is not said here of it: elide, wrapMode, textFormat. Null where the content is another.
     readonly property Text label: contentItem as Text
 

@@ -32,11 +32,11 @@ UTButtonBase {
     property string secondIconName
     property size secondIconSize: Qt.size(16, 16)
     //! Pixels before the icon, between icons and label, and after the last of them.
-    property real startPadding: 0
-    property real labelSpacing: 0
-    property real endPadding: 0
+    property real startPadding
+    property real labelSpacing
+    property real endPadding
     //! The label's room in pixels when it shall not follow its text; 0 to follow it.
-    property real fixedLabelWidth: 0
+    property real fixedLabelWidth
     //! Name for assistive technology in place of label and tool tip.
     property string accessibleName
     property string accessibleDescription
@@ -54,9 +54,9 @@ UTButtonBase {
     readonly property real iconRoom: iconName.length > 0 || !label ? iconSize.width : 0
     // Where icon and label begin, from the side where reading begins.
     readonly property real start: startPadding + Math.max(0, Math.round((width - naturalWidth) / 2))
-    property real secondIconRoom: 0
-    property real labelRoom: 0
-    property real labelHeight: 0
+    property real secondIconRoom
+    property real labelRoom
+    property real labelHeight
     // Of its own, because to ask a control for its implicit width changes it.
     readonly property real naturalWidth: startPadding + iconRoom + secondIconRoom + labelRoom + endPadding
 

@@ -13,7 +13,7 @@ Item {
 
     required property UTButtonBase half
     //! The corners where the half joins the other one: KBasicFocusItem.RectangularCorner.
-    property int corners: 0
+    property int corners
     property bool isShown: true
     property alias themeType: shape.themeType
     property alias controlsTarget: shape.controlsTarget

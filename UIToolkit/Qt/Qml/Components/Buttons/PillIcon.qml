@@ -13,7 +13,7 @@ UTSvgResource {
     id: icon
 
     required property UTPillButton control
-    property bool isRight: false
+    property bool isRight
     readonly property Text label: parent as Text
     // On which side it really is.
     readonly property bool isAfter: isRight !== control.mirrored

@@ -18,7 +18,7 @@ Item {
     //! Side by side, else one above the other.
     property bool isHorizontal: true
     //! The colours for buttons on top of a picture.
-    property bool isOnPicture: false
+    property bool isOnPicture
     //! A value of UTButtonStyle.
     property int style: UTButtonStyle.Secondary
     //! Height of the pill while it lies, width while it stands; in pixels.

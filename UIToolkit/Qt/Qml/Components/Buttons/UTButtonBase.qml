@@ -19,12 +19,12 @@ T.Button {
     id: control
 
     //! Shows the tool tip as a balloon with an arrow instead of a plain rectangle.
-    property bool isTooltipCustom: false
+    property bool isTooltipCustom
     property bool shouldTooltipBeDisplayed: true
     //! Says "Checked" or "Unchecked" when the state changes while the button has the focus.
-    property bool announceStateChange: false
+    property bool announceStateChange
     //! Whether the keyboard can check the button but not uncheck it.
-    property bool isInExclusiveGroup: false
+    property bool isInExclusiveGroup
     //! Whether the label is elided, so that the tool tip has to show it; undefined where that does not matter.
     property var isTextEilded
     property string tooltip
@@ -35,7 +35,7 @@ T.Button {
     readonly property int accessibleRole: 43 // Accessible.Button
 
     // For the script: whether an activating key is down, and the parts made so far by name.
-    property bool isKeyPressed: false
+    property bool isKeyPressed
     property var parts
 
     //! The keyboard reaches the button for the first time, which wants a focus ring then. The handler puts the properties of

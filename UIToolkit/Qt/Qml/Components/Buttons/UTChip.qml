@@ -23,7 +23,7 @@ UTButtonBase {
     property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
     //! Icon name; shown only if showLeftIcon is true as well.
     property string leftIcon
-    property bool showLeftIcon: false
+    property bool showLeftIcon
     //! Handed back by closeClicked.
     property var param: null
     //! A value of UTChipStyle.

@@ -21,15 +21,15 @@ PillPair {
     id: control
 
     //! The look for buttons on top of a video or a picture.
-    property bool isOverlay: false
+    property bool isOverlay
     //! Grows and shrinks with its text. Otherwise it keeps the room of a short text, so that one that changes all the time,
     //! a clock for example, moves nothing; a longer text is elided. So is any text in a button that is given less room.
     property bool enableResize: true
     //! Puts the text, and the middle icon before it, into the right half.
-    property bool isTextInRight: false
-    property bool isSmallSize: false
-    property bool isLeftChecked: false
-    property bool isRightChecked: false
+    property bool isTextInRight
+    property bool isSmallSize
+    property bool isLeftChecked
+    property bool isRightChecked
     //! Icon sizes in pixels.
     property int leftIconSize: 16
     property int middleIconSize: 16

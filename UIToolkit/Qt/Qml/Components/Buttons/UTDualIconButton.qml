@@ -18,10 +18,10 @@ PillPair {
     id: control
 
     //! The look for buttons on top of a video or a picture.
-    property bool isOverlay: false
+    property bool isOverlay
     //! Side by side; otherwise the left button lies above the right one.
     property bool horizontal: true
-    property bool isSmallSize: false
+    property bool isSmallSize
     //! Icon names.
     property string leftIconName
     property string rightIconName

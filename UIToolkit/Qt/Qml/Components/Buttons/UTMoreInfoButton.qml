@@ -17,7 +17,7 @@ UTRoundButton {
     //! What the balloon says; rich text where includeHyperLink says so, else plain.
     property string moreInfoText
     //! Whether moreInfoText is rich text with links. They open in the desktop's programs.
-    property bool includeHyperLink: false
+    property bool includeHyperLink
     //! In pixels.
     property int maximumPopoverWidth: 308
     //! The side of the balloon that carries the arrow, a value of UTPopOverEnum.

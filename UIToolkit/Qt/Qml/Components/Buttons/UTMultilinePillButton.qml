@@ -36,8 +36,8 @@ UTButtonBase {
     property int textAlignment: Text.AlignLeft
     //! The item that hosts the focus ring.
     property var focusDesignatedParent: control
-    property bool innerFocusBorder: false
-    property bool shouldDisplayLineDesignator: false
+    property bool innerFocusBorder
+    property bool shouldDisplayLineDesignator
     //! The name of the line, and the colour set of its frame.
     property string lineDesignatorText
     property string lineDesignatorColorName: "chips-outline-multiline-text-cobalt"
@@ -45,7 +45,7 @@ UTButtonBase {
     property color textPrimaryNormal: (ThemeManager.globalTheme, App.getColorSet("text-primary", themeType)).normal
     //! Draws label and line in textPrimaryNormal, whatever the state; else the label has the colour of the style and the
     //! line that of its colour set.
-    property bool shouldUseSingleTextColor: false
+    property bool shouldUseSingleTextColor
     //! Whether the line can be used; its frame is faint if not.
     property bool multiLineEnabled: enabled
 

@@ -39,9 +39,9 @@ UTButtonBase {
     property var alignment
     //! The item that hosts the focus ring.
     property var focusDesignatedParent: control
-    property bool innerFocusBorder: false
+    property bool innerFocusBorder
     //! Keeps the icons next to an aligned label, instead of at the ends of the button.
-    property bool isIconAlignText: false
+    property bool isIconAlignText
     readonly property bool isTruncated: isTextEilded === true
 
     onFocusRingWanted: settings => Object.assign(settings, {

@@ -28,7 +28,7 @@ UTButtonBase {
     //! Icon name; empty for none.
     property string iconName
     //! Keeps the label on one line and elides it where it does not fit; the tool tip then shows all of it.
-    property bool singleLine: false
+    property bool singleLine
 
     onFocusRingWanted: settings => Object.assign(settings, { isRectangle: true, cornerRadius: () => priv.cornerRadius, themeType: () => control.themeType })
 

@@ -29,13 +29,13 @@ UTButtonBase {
     property int buttonStyle: 1 // UTButtonStyle.Primary
     //! A value of UTButtonSize.
     property int buttonSize: 1 // UTButtonSize.XL
-    property bool innerFocusBorder: false
+    property bool innerFocusBorder
     //! Colour set of the icon in place of that of the style.
     property string iconColorSetName
     //! The item that hosts the focus ring.
     property var focusDesignatedParent: control
     //! Mirrors the icon where the layout runs from right to left; for arrows and the like.
-    property bool mirrorEnabled: false
+    property bool mirrorEnabled
     //! The focus ring's rectangle, in the button's coordinates; empty for the button's own.
     property rect customFocusRect
 

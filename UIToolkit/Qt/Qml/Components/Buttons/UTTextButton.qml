@@ -25,11 +25,11 @@ UTButtonBase {
     property alias textFont: label.font
     property alias textElide: label.elide
     //! Shows the pointing hand over the button.
-    property bool changeCursor: false
+    property bool changeCursor
     //! The item that hosts the focus ring; the top-most ancestor when undefined.
     property var designatedParent
     //! Whether a click shows tooltipContent in a balloon, until the next click, Escape, or the loss of focus and pointer.
-    property bool enableClickTooltip: false
+    property bool enableClickTooltip
     property string tooltipContent
     //! In pixels.
     property int tooltipMaxWidth: 216

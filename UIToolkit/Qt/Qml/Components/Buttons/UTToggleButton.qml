@@ -26,9 +26,9 @@ PillPair {
     property string leftAccessibleDescription
     property string rightAccessibleDescription
     //! Lets one half be checked at a time, and leaves it checked when it is pressed again.
-    property bool isExclusive: false
-    property bool isOverlay: false
-    property bool isSmallSize: false
+    property bool isExclusive
+    property bool isOverlay
+    property bool isSmallSize
 
     isOnPicture: isOverlay
     thickness: isSmallSize ? 24 : 32

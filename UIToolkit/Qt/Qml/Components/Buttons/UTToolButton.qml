@@ -18,11 +18,11 @@ UTButtonBase {
     //! Icon name; empty for none.
     property string iconName
     //! Shows the button as hovered, as while what it opened is open.
-    property bool hoverOverride: false
+    property bool hoverOverride
     //! The shape of the focus ring, a KBasicFocusItem.
     property alias focusOutline: outline
     //! Whether the button itself hosts its focus ring, as in a row that scrolls, instead of its top-most ancestor.
-    property bool isDesignatedParent: false
+    property bool isDesignatedParent
 
     onFocusRingWanted: settings => Object.assign(settings, {
         innerFocusBorder: () => outline.innerFocusBorder,

@@ -32,6 +32,7 @@ function follow(control, left) {
 // Gives \a control the label and the right half that its type, after its \a metrics, and its text ask for. A script cannot
 // name a \a corner itself.
 function arrange(control, left, metrics, corner) {
+    left.contentItem.sourceSize = metrics.leftIconSize;
     metrics.showText = control.showText && control.text.length > 0 && metrics.canShowText;
     if (metrics.showText && !left.parts?.label) {
         ButtonBase.needPart(left, "label", "CallControlLabel", { control: control, half: left }, left);

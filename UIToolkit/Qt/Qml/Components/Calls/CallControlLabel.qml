@@ -17,8 +17,8 @@ Text {
     required property UTCallControlButton control
     required property UTButtonBase half
     // Of their own, because to ask a text for its implicit size may change it.
-    property real naturalWidth: 0
-    property real naturalHeight: 0
+    property real naturalWidth
+    property real naturalHeight
     readonly property bool isShown: control.UTCallControlButtonData.showText
     readonly property real iconSide: control.UTCallControlButtonData.leftIconSize.width + control.UTCallControlButtonData.textLeftMargin
     readonly property real start: (half.mirrored ? half.rightPadding : half.leftPadding) + iconSide

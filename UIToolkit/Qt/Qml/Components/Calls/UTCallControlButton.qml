@@ -29,9 +29,9 @@ KFrame {
 
     //! Values of UTCallControlButtonEnum. A type other than Panel and Round vanishes in the size ExtremeSmall.
     property int buttonType: 4 // UTCallControlButtonEnum.Round
-    property int buttonStyle: 0 // UTCallControlButtonEnum.Secondary
-    property int buttonSize: 0 // UTCallControlButtonEnum.Medium
-    property int buttonState: 0 // UTCallControlButtonEnum.Inactive
+    property int buttonStyle // UTCallControlButtonEnum.Secondary
+    property int buttonSize // UTCallControlButtonEnum.Medium
+    property int buttonState // UTCallControlButtonEnum.Inactive
     //! The label of the left half.
     property string text
     //! Shows the label where the type can carry one. A bar that runs out of room switches it off; the text remains the
@@ -40,17 +40,17 @@ KFrame {
     //! Shown at the upper corner, where the type can have a badge; empty for none.
     property string badgeText
     //! Shows a dot there while there is no badgeText.
-    property bool badgeVisible: false
+    property bool badgeVisible
     //! Takes the left icons for bitmaps under "qrc:/Resources/" instead of icons: what the assistant's types often show.
-    property bool isLeftBitmap: false
+    property bool isLeftBitmap
 
     // The halves, each with the same properties.
     property alias leftEnabled: leftHalf.enabled
     property bool rightEnabled: true
-    property bool leftCheckable: false
-    property bool rightCheckable: false
-    property bool leftChecked: false
-    property bool rightChecked: false
+    property bool leftCheckable
+    property bool rightCheckable
+    property bool leftChecked
+    property bool rightChecked
     //! What the half does: its tool tip and its name for assistive technology, unless those are given. The left half's text
     //! comes first as a name.
     property string leftName
@@ -69,7 +69,7 @@ KFrame {
     property string rightAccessibleDescription
     //! Says "Checked" or "Unchecked" when the state of a focused half changes.
     property alias leftAnnouncesState: leftHalf.announceStateChange
-    property bool rightAnnouncesState: false
+    property bool rightAnnouncesState
     //! Spoken when it changes while the half has the focus.
     property alias leftStatusText: leftHalf.accessibleText
     property string rightStatusText
@@ -138,7 +138,7 @@ KFrame {
     UTButtonBase {
         id: leftHalf
 
-        property int squareCorners: 0
+        property int squareCorners
 
         onFocusRingWanted: settings => Object.assign(settings, {
             rectangularCornerMask: () => leftHalf.squareCorners,
@@ -158,15 +158,14 @@ KFrame {
                 return name.length === 0 ? "" : control.isLeftBitmap ? "qrc:/Resources/" + name
                     : `image://svg/${ThemeUtils.getColor(control.leftState, control.UTCallControlButtonData.textColorSet)}/${name}`;
             }
-            sourceSize: control.UTCallControlButtonData.leftIconSize
+            sourceSize: "20x20" // of a Round button of Medium size; the script's arrange() gives others theirs
             fillMode: Image.Pad // in the middle
             mipmap: true // as everywhere, for the texture is shared
         }
 
         onEnabledChanged: CallControl.follow(control, leftHalf)
         onPressedChanged: CallControl.follow(control, leftHalf)
-        onHoveredChanged: CallControl.follow(control, leftHalf)
-        onActiveFocusChanged: CallControl.follow(control, leftHalf)
+        onPartsChanged: CallControl.follow(control, leftHalf) // first hovered or focused
         onCheckedChanged: CallControl.follow(control, leftHalf)
         onClicked: CallControl.clicked(control, "left", leftHalf)
         onToggled: CallControl.toggled(control, "left", leftHalf)

@@ -39,14 +39,14 @@ UTCallControlButton {
     //! An unknown number is as Custom.
     property int action: UTCallControlButtonWrapper.Action.Custom
     //! Whether what the action's name says is in force: muted, sharing, the panel open.
-    property bool isOn: false
+    property bool isOn
     //! Gives the action a second half that asks for a menu.
-    property bool hasMenu: false
-    property bool isMenuOpen: false
+    property bool hasMenu
+    property bool isMenuOpen
     //! Shows the action's name as a label, where the form of the button can carry one.
-    property bool isLabelled: false
+    property bool isLabelled
     //! What is new, shown as a badge; 0 for none.
-    property int count: 0
+    property int count
     readonly property var row: CallControl.actionRow(action)
 
     //! The user wants the action done, or undone.

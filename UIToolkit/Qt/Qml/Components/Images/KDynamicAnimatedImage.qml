@@ -17,7 +17,7 @@ Item {
     //! What to fetch: an "image://dynamic/..." or the address of a film.
     property string source
     //! Gives the animation the film's proportions, whatever its fill mode.
-    property bool keepAspectRatio: false
+    property bool keepAspectRatio
 
     onSourceChanged: {
         if (priv.isComplete)
@@ -56,7 +56,7 @@ Item {
     QtObject {
         id: priv
 
-        property bool isComplete: false
+        property bool isComplete
         // As large as the item allows.
         readonly property size size: {
             const ratio = provider.aspectRatio;

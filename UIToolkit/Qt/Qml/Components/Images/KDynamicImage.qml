@@ -13,7 +13,7 @@ Item {
     //! The KImage.
     property alias image: image
     property bool showSpinner: true
-    property bool mirrorEnabled: false
+    property bool mirrorEnabled
 
     KSvgSpinner {
         width: 27
@@ -38,6 +38,6 @@ Item {
         id: priv
 
         // Never false again: a later picture loads behind the earlier one.
-        property bool hasLoaded: false
+        property bool hasLoaded
     }
 }

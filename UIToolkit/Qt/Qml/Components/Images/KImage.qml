@@ -12,7 +12,7 @@ Image {
 
     property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
     property var controlsTarget: control
-    property bool hasSpinner: false
+    property bool hasSpinner
     //! Whether there is a spinner and nothing to show in its place yet.
     readonly property bool isSpinnerVisible: hasSpinner && (source.toString().length === 0 || status !== Image.Ready)
 

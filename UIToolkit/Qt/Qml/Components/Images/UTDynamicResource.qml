@@ -14,7 +14,7 @@ Item {
 
     property var imageFillMode: Image.PreserveAspectFit
     property bool showSpinner: true
-    property bool mirrorEnabled: false
+    property bool mirrorEnabled
     //! An address that begins with "data:", "qrc:" or "file:", or an encoded source as MediaPolicy.encode makes it.
     property string imageSource
     //! Shown in place of a picture that cannot be had.

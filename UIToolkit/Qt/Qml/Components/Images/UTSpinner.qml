@@ -22,7 +22,7 @@ Canvas {
     //! A SpinnerType; -1 for none, which paints nothing.
     property int spinnerType: -1
     //! Percent. While the spinner waits it turns this itself.
-    property real currentValue: 0
+    property real currentValue
     //! Whether a waiting spinner speaks every ten seconds.
     property bool sayAccessible: true
     //! Whether a check mark shows in a ring that is full.

@@ -24,7 +24,7 @@ KImage {
     property string pngName
     property int imagePrefixType: 0 // UTSvgResource.ImagePrefixType.None
     property string emojiName
-    property bool validSize: false
+    property bool validSize
 
     antialiasing: true
     mipmap: true

@@ -62,8 +62,8 @@ KBalloon {
     property int previewImageHeight: 148
     property bool showCloseButton: true
     //! Lets the flow of button and link start at the far side.
-    property bool primaryButtonRightAligned: false
-    property bool headerBelowPreview: false
+    property bool primaryButtonRightAligned
+    property bool headerBelowPreview
     //! How high the description may be before it is elided, in pixels; 0 for as high as it is.
     property int descriptionTextMaxHeight: 96
     //! Whether the window's first activation, which moves the focus to the first button, is still to come.

@@ -38,19 +38,19 @@ Item {
     //! Size class, a value of UTPopOverEnum.Size: how large arrow and corners are.
     property int popOverSize: UTPopOverEnum.Small
     //! Pixels by which the arrow is moved on its side.
-    property int arrowOffset: 0
+    property int arrowOffset
     property bool arrowVisible: true
     //! Whether the window becomes the active one when it is shown.
     property bool showWithActive: true
     //! Index of the window's screen in the application's list of screens; found anew with each showing.
-    property int activeScreenIndex: 0
+    property int activeScreenIndex
     //! Pixels kept free around the target.
     property int popOverMargin: 2
     //! Closes the balloon when nothing in it has the focus any more.
-    property bool hasFocusItem: false
-    property bool visualFocus: false
+    property bool hasFocusItem
+    property bool visualFocus
     //! Whether the balloon exists and shows.
-    property bool active: false
+    property bool active
     //! The window that this one belongs to; that of the target when null.
     property Window windowParent: null
     //! The window while there is one.
@@ -60,7 +60,7 @@ Item {
     //! What assistive technology calls the window; "group" when empty.
     property var accessibleName: ""
     //! Without showWithActive, whether the window is one of the application's tools rather than above all others.
-    property bool useToolWithParentFlag: false
+    property bool useToolWithParentFlag
 
     //! The window exists and is about to be shown.
     signal popUpWindowCreated(windowHandle: var)
@@ -155,7 +155,7 @@ Item {
         readonly property int longestDelay: 0x7fffffff
         // As often as the arrow may turn, and once more.
         readonly property int mostSizings: 5
-        property bool isComplete: false
+        property bool isComplete
 
         readonly property Component windowComponent: Component {
             Window {
@@ -165,7 +165,7 @@ Item {
                 readonly property Window scene: control.targetItem?.Window.window ?? null
                 property bool hasBeenActive: !control.showWithActive
                 //! Since content or target last changed.
-                property int sizings: 0
+                property int sizings
 
                 objectName: "popOverWindow"
                 title: control.accessibleName || qsTr("group")

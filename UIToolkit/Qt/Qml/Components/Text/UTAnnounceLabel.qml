@@ -12,10 +12,10 @@ UTLabel {
     id: control
 
     //! Speaks the text without its formatting.
-    property bool isFormattingRemoved: false
+    property bool isFormattingRemoved
     property bool isTextChangedSayEnabled: true
     //! Speaks in the next turn of the event loop, and once for all that happened until then.
-    property bool delay: false
+    property bool delay
 
     //! Speaks the text, unless the label is disabled.
     function sayAccessible(): void {

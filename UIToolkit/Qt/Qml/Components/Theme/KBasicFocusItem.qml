@@ -22,12 +22,12 @@ Item {
 
     property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
     //! Draws the ring inside the item instead of around it.
-    property bool innerFocusBorder: false
+    property bool innerFocusBorder
     //! Margin of the canvas around the item, on every side.
     readonly property real extraSpace: innerFocusBorder ? 0 : 5
     //! The item that hosts the canvas; the top-most ancestor when undefined.
     property var designatedParent
-    property bool isRectangle: false
+    property bool isRectangle
     property real cornerRadius: 8
     //! When set, decides the radius of a rectangle instead of cornerRadius: true 2, false 4.
     property var isExtraSmall

@@ -18,7 +18,7 @@ FocusScope {
     readonly property kColorSet gradientStartColourSet: ThemeManager.globalTheme, App.getColorSet(gradientStartColourSetName, themeType)
     property string gradientEndColourSetName: "theme-gradient-secondary-1-background"
     readonly property kColorSet gradientEndColourSet: ThemeManager.globalTheme, App.getColorSet(gradientEndColourSetName, themeType)
-    property real radius: 0
+    property real radius
     property int gradientOrientation: Gradient.Vertical
 
     Rectangle {

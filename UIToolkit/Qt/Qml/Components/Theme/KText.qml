@@ -24,9 +24,9 @@ Text {
     readonly property bool empty: text.length === 0
     property string toolTipText: text
     //! Moves focus away and back when the text changes, so that assistive technology reads it again.
-    property bool refocusOnTextChange: false
+    property bool refocusOnTextChange
     //! Whether the control that this text belongs to shows its focus; a truncated text then shows its tool tip.
-    property bool isParentGotVisualFocus: false
+    property bool isParentGotVisualFocus
     property alias textMouseArea: mouseArea
 
     //! Sets text to \a emojiText, in rich text with the emoji as images; breaks a binding on text.

@@ -18,8 +18,8 @@ Item {
 
     property alias tooltipText: toolTip.tooltipText
     //! Shows a balloon with an arrow instead of a plain rectangle.
-    property bool isTooltipCustom: false
-    property bool active: false
+    property bool isTooltipCustom
+    property bool active
     property bool fillParent: true
     //! The window, while there is one.
     property Window tooltipItem: null
@@ -105,7 +105,7 @@ Item {
         id: priv
 
         readonly property int delayToStartTime: 800
-        property int activeScreenIndex: 0
+        property int activeScreenIndex
 
         function destroyWindow(): void {
             startDelay.stop();

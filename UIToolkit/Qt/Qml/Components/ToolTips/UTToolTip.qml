@@ -24,15 +24,15 @@ Item {
     //! UTTooltipEnum.Native or Customized.
     property int tooltipStyle: UTTooltipEnum.Native
     // The reasons to show it. The one that changed last decides.
-    property bool active: false
-    property bool hovered: false
-    property bool focused: false
+    property bool active
+    property bool hovered
+    property bool focused
     //! The side of the tool tip that faces the control, a UTTooltipEnum.ArrowAnchor; another one where there is no room.
     property int arrowAnchor: UTTooltipEnum.Top
     //! A UTTooltipEnum.ArrowAlignment.
     property int arrowAlignment: UTTooltipEnum.CenterAlignment
     //! Pixels.
-    property int arrowOffset: 0
+    property int arrowOffset
     //! Of the text, in pixels.
     property int maximumWidth: 308
     //! Without limit, which an int says as -1.
@@ -41,9 +41,9 @@ Item {
     property int popOverMargin: tooltipStyle === UTTooltipEnum.Native ? 4 : 2
     property string tooltipText
     //! Milliseconds after which a tool tip that shows hides by itself; 0 for never.
-    property int toggleOffTime: 0
+    property int toggleOffTime
     //! Milliseconds to wait before showing.
-    property int delayToStartTime: 0
+    property int delayToStartTime
     //! Milliseconds between two looks at whether the control has moved.
     property int updatePositionTime: 1000
     property bool tooltipVisible: UTToolTipData.visible
@@ -57,10 +57,10 @@ Item {
     property var themeType: typeof (themeMode) !== "undefined" ? themeMode : "global" // qmllint disable unqualified
     //! Whether it counts among the tool tips of which one at a time shows.
     property bool managedByToolTipManager: true
-    property bool isDestroying: false
+    property bool isDestroying
     // Changes that a change causes do not count.
-    property bool _toggleInProgress: false
-    property bool _displayInProgress: false
+    property bool _toggleInProgress
+    property bool _displayInProgress
 
     //! The tool tip is about to show: the time to set tooltipWindow.
     signal showToolTip()

@@ -85,16 +85,19 @@ protected:
         return false;
     }
 
-    //! Clicks into a corner of \a target, where no other window of the scene should cover it.
+    //! Clicks into a corner of \a target, where no other window of the scene should cover it, once it is on display: a
+    //! click that comes too early hits the desktop, which then has the focus.
     static bool activate(const QWindow *target)
     {
         int attempt = 0;
         return QTest::qWaitFor(
             [&] {
+                if (!target->isExposed())
+                    return false;
                 const QPoint place = target->geometry().topLeft() + QPoint(12, 12);
                 if (++attempt % 100 == 1)
                     user(QStringLiteral("mousemove %1 %2 click 1").arg(place.x()).arg(place.y()));
-                return hasFocus(target) && target->isExposed();
+                return hasFocus(target);
             },
             patience);
     }

@@ -35,6 +35,11 @@ Column {
     width: parent?.width ?? 0
     spacing: Metrics.small
 
+    Component {
+        id: focusPicture
+
+        FocusPicture {}
+    }
     GalleryText {
         width: parent.width
         visible: control.title.length > 0
@@ -144,6 +149,10 @@ Column {
                                         const example = control.delegate.createObject(cell, { row: line.modelData, exampleState: modelData });
                                         example.x = Qt.binding(() => Math.round((cell.width - example.width) / 2));
                                         line.widest = Math.max(line.widest, example.width);
+                                        if (modelData.activeFocus) {
+                                            const button = example.leftButton ?? example;
+                                            focusPicture.createObject(button, { button: button });
+                                        }
                                     }
                                 }
                             }

@@ -1,4 +1,3 @@
-import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
 import Gallery

@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 
-import QtQuick
 import Korvu 1.0
 import UIToolkitQml 1.0
 import UIToolkitQml_Private 1.0

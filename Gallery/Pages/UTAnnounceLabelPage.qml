@@ -1,4 +1,3 @@
-import QtQuick
 import UIToolkitQml 1.0
 import Gallery
 

@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 
-import QtQuick
 import UIToolkitQml 1.0
 import Gallery
 

@@ -1,5 +1,4 @@
 import QtQuick
-import UIToolkitQml 1.0
 import Gallery
 
 GalleryPage {

@@ -1,7 +1,5 @@
 pragma ComponentBehavior: Bound
 
-import QtQuick
-import UIToolkitQml 1.0
 import UIToolkitQml_Private 1.0
 import Gallery
 

@@ -1,5 +1,4 @@
 import QtQuick
-import Korvu 1.0
 import UIToolkitQml 1.0
 
 // A pop-over that takes the focus and gives it back.

@@ -158,7 +158,9 @@ KFrame {
                 return name.length === 0 ? "" : control.isLeftBitmap ? "qrc:/Resources/" + name
                     : `image://svg/${ThemeUtils.getColor(control.leftState, control.UTCallControlButtonData.textColorSet)}/${name}`;
             }
-            sourceSize: "20x20" // of a Round button of Medium size; the script's arrange() gives others theirs
+            // A Round button of Medium size; the script's arrange() gives the others theirs.
+            sourceSize.width: 20
+            sourceSize.height: 20
             fillMode: Image.Pad // in the middle
             mipmap: true // as everywhere, for the texture is shared
         }

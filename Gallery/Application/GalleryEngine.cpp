@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 
 GalleryEngine::GalleryEngine()
 {
+    QLoggingCategory::setFilterRules(u"korvu.colorsets.warning=true"_s);
     const QDir program(QCoreApplication::applicationDirPath());
     for (const QString &directory : QStringLiteral(GALLERY_QML_DIRS).split(u':')) {
         if (const QString path = program.absoluteFilePath(directory); QFileInfo(path).isDir())

@@ -152,6 +152,7 @@ private Q_SLOTS:
         QCOMPARE(data->textColorData()->color(), QColor(0xff8000));
         QCOMPARE(data->rightIconColorData()->color(), QColor(0xff8000));
         QVERIFY(data->iconColorData()->colorCustomized());
+        QCOMPARE(data->iconColorData()->activeToken(), u"#ff8000"_s);
         data->setIconColorCustomized(u"no colour"_s);
         data->refresh(); // without a word
         QVERIFY(!data->textColorData()->color().isValid());

@@ -4,11 +4,15 @@
 #include "ThemeManager.h"
 
 #include <QByteArray>
-#include <QDebug>
+#include <QColor>
+#include <QLoggingCategory>
 #include <QSet>
 #include <QString>
 
 namespace {
+// Silent unless a developer asks for it: applications may look for a set that a palette lacks.
+Q_LOGGING_CATEGORY(colorSets, "korvu.colorsets", QtCriticalMsg)
+
 struct ThemeTypeName
 {
     QLatin1String name;
@@ -42,8 +46,9 @@ KColorSet KThemeUtils::getColorSet(const QByteArray &name, AppThemeType themeTyp
         return {};
 
     static QSet<QByteArray> unknownNames;
-    if (firstTime(unknownNames, name))
-        qWarning("Unknown colour set \"%s\".", name.constData());
+    // A customised button has a colour where others name a set.
+    if (!QColor::isValidColorName(QLatin1StringView(name)) && firstTime(unknownNames, name))
+        qCWarning(colorSets, "Unknown colour set \"%s\".", name.constData());
     KColorSet unknown;
     unknown.setName(QString::fromUtf8(name));
     return unknown;

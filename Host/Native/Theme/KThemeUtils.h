@@ -15,8 +15,8 @@ public:
 
     /*!
         The colour set called \a name (UTF-8) in the palette of \a themeType. An unknown name gives a
-        set that carries the name but no colours, so an invalid one, and is warned about once; an
-        empty name gives a default set without a message.
+        set that carries the name but no colours, so an invalid one; an empty name gives a default
+        set. The logging category "korvu.colorsets" warns of each unknown name once; it is off.
     */
     static KColorSet getColorSet(const QByteArray &name, AppThemeType themeType);
 

@@ -115,6 +115,7 @@ void IUTButtonData::updateTokens()
     const QString text = customized ? m_iconColorCustomized : ColorTokens::name(colors.text);
     const QString icon = m_iconColorSetName.isEmpty() ? text : m_iconColorSetName;
     const QString rightIcon = m_rightIconColorSetName.isEmpty() ? icon : m_rightIconColorSetName;
+    const QString activeText = customized ? m_iconColorCustomized : ColorTokens::name(colors.activeText);
 
     setToken(Background, &UTColorData::setToken, ColorTokens::name(colors.background));
     setColor(Text, customized, text);
@@ -125,7 +126,7 @@ void IUTButtonData::updateTokens()
     setColor(RightIcon, customized, rightIcon);
     setToken(Background, &UTColorData::setActiveToken, ColorTokens::name(colors.activeBackground));
     // Neither the label nor the right icon has active colours, while the icon has those of the text. That is meant.
-    setToken(Icon, &UTColorData::setActiveToken, ColorTokens::name(colors.activeText));
+    setToken(Icon, &UTColorData::setActiveToken, activeText);
     setToken(Border, &UTColorData::setActiveToken, ColorTokens::name(colors.activeBorder));
 
     setBorder(colors.border == None ? 0 : 1);

@@ -149,4 +149,10 @@ ToolkitTestCase {
         wrapper.active = false;
         compare(wrapper.tooltipItem, null);
     }
+
+    function test_popOverInViewOfCpp() {
+        // The test's own window, a QQuickView.
+        const popOver = make("UTPopOver", { active: true, showWithActive: false, automaticClose: false });
+        compare(popOver.windowComponentInstance.transientParent, Window.window);
+    }
 }

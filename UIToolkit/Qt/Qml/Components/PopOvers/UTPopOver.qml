@@ -51,8 +51,8 @@ Item {
     property bool visualFocus
     //! Whether the balloon exists and shows.
     property bool active
-    //! The window that this one belongs to; that of the target when null.
-    property Window windowParent: null
+    //! The window that this one belongs to, of any class; that of the target when null.
+    property var windowParent: null
     //! The window while there is one.
     property Window windowComponentInstance: null
     //! Closes the balloon when another window gets the focus, unless that one belongs to the balloon's.
@@ -161,9 +161,10 @@ Item {
             Window {
                 id: popOverWindow
 
-                //! The target's.
-                readonly property Window scene: control.targetItem?.Window.window ?? null
+                //! The target's, of any class: an application written in C++ may show its items in a QQuickView.
+                readonly property var scene: control.targetItem?.Window.window ?? null
                 property bool hasBeenActive: !control.showWithActive
+                property bool heldFocus
                 //! Since content or target last changed.
                 property int sizings
 
@@ -199,9 +200,19 @@ Item {
                 }
 
                 onSceneChanged: control.updatePosition()
+                // Whether the focus is here or in a window of this one. The window's own "active" is true in all windows that
+                // belong together, so also while the target's has the focus.
+                function holds(focusWindow: var): bool {
+                    return Boolean(focusWindow) && (focusWindow === popOverWindow || UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow));
+                }
+
                 onActiveChanged: {
                     hasBeenActive = true;
-                    control.popoverWindowActiveChanged(active);
+                    const holdsFocus = holds(App.focusWindow());
+                    if (holdsFocus !== heldFocus) {
+                        heldFocus = holdsFocus;
+                        control.popoverWindowActiveChanged(holdsFocus);
+                    }
                 }
                 onClosing: control.active = false
 
@@ -228,9 +239,8 @@ Item {
                     target: App
                     enabled: control.automaticClose
 
-                    function onFocusWindowChanged(focusWindow: Window): void {
-                        const isHere = focusWindow && (focusWindow === popOverWindow || UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow));
-                        if (isHere && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
+                    function onFocusWindowChanged(focusWindow: var): void {
+                        if (popOverWindow.holds(focusWindow) && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
                             focusLoss.stop();
                         else if (focusWindow && popOverWindow.hasBeenActive && !(focusWindow === popOverWindow.scene && priv.isMouseOver(control.targetItem)))
                             control.active = false;
@@ -376,7 +386,7 @@ Item {
             control.windowComponentInstance = null;
             // Back to where it was opened from, unless the focus has gone elsewhere by itself; while the focus is still
             // here to be given away.
-            if (closing.active && control.targetItem?.Window.window)
+            if (closing["holds"](App.focusWindow()) && control.targetItem?.Window.window)
                 control.targetItem.Window.window.requestActivate();
             closing.visible = false;
             closing.destroy();

@@ -116,6 +116,9 @@ private Q_SLOTS:
         row("paste text with pending format", "key Ctrl+B | text x\r\ny", "<p><b>x</b></p><p><b>y</b></p>");
         row("replace", "type abc | caret 0 | replace <p>x</p><p></p><p>y</p>", "<p>x</p><p></p><p>y</p>");
         row("replace by nothing", "type abc | caret 0 | replace  | type d", "<p>d</p>");
+        row("undo takes the selection", "text ab\ncd | select 0,4 | heading 2,1 | undo | text x",
+            "<p>ab</p><p>cxd</p>");
+        row("lost bullet in one undo", "bullets | type a | key Home | key Backspace | type b | undo", "<p>a</p>");
         row("pictures go alone", "text a | picture | sanitise", "<p>a</p>");
         row("sanitise", "html <h1>a</h1><ul><li>b</ul> | sanitise", "<h1><b>a</b></h1><ul><li><p>b</p></li></ul>");
         row("right to left", "html <p dir=rtl><b>\u05e9\u05dc\u05d5\u05dd</b> ab</p>",
@@ -133,6 +136,7 @@ private Q_SLOTS:
 
     void state()
     {
+        QVERIFY(!m_data->modified());
         perform("html <h2>ab</h2><p><i>c</i><u>d</u></p> | caret 1");
         QVERIFY(m_data->bold() && m_data->heading2() && !m_data->italic());
         perform("caret 4");

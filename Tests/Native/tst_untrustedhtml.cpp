@@ -27,6 +27,9 @@ private Q_SLOTS:
         row("format over blocks", "<b>1<p>2</b>3", "<p><b>1</b></p><p><b>2</b>3</p>");
         row("styles", "<span style='font-weight:600;FONT-STYLE:italic'>a<b style='font-weight:normal'>b</b></span>",
             "<p><b><i>a</i></b><i>b</i></p>");
+        row("fonts",
+            "<b style='font:7.0pt Bold'>a<i style='font: 700 12px/1.5 b'>b<b style='font:inherit'>c</b></i></b>",
+            "<p>a<b>bc</b></p>");
         row("style sheet",
             "<style><!-- /* } */ @import 'x'; @media print{.b{display:none}} .b, p.i{font-weight:bold} p.i "
             "{font-style:italic} a b{display:none} --></style><p class='x i'>1<span class=B>2",

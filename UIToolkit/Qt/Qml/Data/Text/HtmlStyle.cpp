@@ -31,6 +31,23 @@ std::optional<bool> italicOf(QStringView value)
     return std::nullopt;
 }
 
+// Whether \a read finds its look before the size in "italic bold 12px Arial", where what is not named is normal.
+std::optional<bool> inFont(QStringView value, std::optional<bool> (*read)(QStringView value))
+{
+    // A number alone is a weight.
+    const auto isSize = [](QStringView word) {
+        const auto isDigit = [](QChar c) { return c.isDigit(); };
+        return (isDigit(word.front()) || word.front() == u'.') && !std::all_of(word.begin(), word.end(), isDigit);
+    };
+    bool isFound = false;
+    for (const QStringView word : value.tokenize(u' ', Qt::SkipEmptyParts)) {
+        if (isSize(word))
+            return isFound;
+        isFound = isFound || read(word).value_or(false);
+    }
+    return std::nullopt; // "inherit", or none that browsers read
+}
+
 std::optional<bool> underlineOf(QStringView value)
 {
     if (value.contains("underline"_L1, Qt::CaseInsensitive))
@@ -60,6 +77,8 @@ struct Property
 };
 
 constexpr Property properties[] = {
+    {"font"_L1, &HtmlStyle::bold, [](QStringView value) { return inFont(value, boldOf); }},
+    {"font"_L1, &HtmlStyle::italic, [](QStringView value) { return inFont(value, italicOf); }},
     {"font-weight"_L1, &HtmlStyle::bold, boldOf},
     {"font-style"_L1, &HtmlStyle::italic, italicOf},
     {"text-decoration"_L1, &HtmlStyle::underline, underlineOf},

@@ -293,6 +293,25 @@ void UTRichTextAreaData::onDocumentContentsChanged()
         setShouldApplyNewFormatting(false);
     syncFormattingState();
     updateLinkBoundaryState();
+    followUndoneSelection();
+}
+
+// Undo takes the selection from Qt's text area, which does not tell of it.
+void UTRichTextAreaData::followUndoneSelection()
+{
+    const auto isShown = [this] {
+        return m_textArea && m_textArea->property("selectionStart") == m_selectionStart
+            && m_textArea->property("selectionEnd") == m_selectionEnd;
+    };
+    if (m_selectionStart == m_selectionEnd || !isShown())
+        return;
+    const auto follow = [this, isShown] {
+        if (!m_textArea || isShown())
+            return;
+        setSelectionStart(m_textArea->property("selectionStart").toInt());
+        setSelectionEnd(m_textArea->property("selectionEnd").toInt());
+    };
+    QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection);
 }
 
 void UTRichTextAreaData::onSelectionStartChanged()
@@ -315,8 +334,15 @@ void UTRichTextAreaData::onModifiedChanged()
 
 void UTRichTextAreaData::onDocumentModifiedChanged()
 {
-    if (m_document)
-        setModified(m_document->isModified());
+    const auto read = [this] {
+        if (m_document)
+            setModified(m_document->isModified());
+    };
+    // A document calls itself modified while it is loaded, and does not always say when that is over.
+    if (m_document && m_document->isUndoRedoEnabled())
+        read();
+    else
+        QMetaObject::invokeMethod(this, read, Qt::QueuedConnection);
 }
 
 void UTRichTextAreaData::onLinkColorChanged()
@@ -680,10 +706,16 @@ bool UTRichTextAreaData::insertTypedText(const QString &text, QTextCursor cursor
 {
     if (exceedsLimit(text.size()))
         return true;
-    const std::optional<QTextCharFormat> format = formatToInsert(cursor);
-    if (format)
-        cursor.insertText(text, *format);
-    return format.has_value();
+    std::optional<QTextCharFormat> format = formatToInsert(cursor);
+    // The bullets that come with it are to be undone with it; they cannot join a character that a text area types.
+    if (!format && m_automaticBullets && m_bulletListDirty && !cursor.isNull())
+        format = cursor.charFormat();
+    if (!format)
+        return false;
+    cursor.beginEditBlock();
+    cursor.insertText(text, *format);
+    cursor.endEditBlock();
+    return true;
 }
 
 std::optional<QTextCharFormat> UTRichTextAreaData::formatToInsert(const QTextCursor &cursor) const

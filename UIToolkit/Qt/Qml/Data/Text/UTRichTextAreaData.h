@@ -206,6 +206,7 @@ private:
     QColor linkQColor() const { return m_linkColor.value<QColor>(); }
 
     void layOutUntoldChanges();
+    void followUndoneSelection();
     void syncFormattingState();
     void updateLinkBoundaryState();
 

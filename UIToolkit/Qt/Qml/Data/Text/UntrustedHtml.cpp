@@ -47,8 +47,8 @@ constexpr ElementType elementTypes[] = {
     {"a"_L1, Layout::Inline, Look::Link},
     {"address"_L1, Layout::Block, Look::Italic},
     {"area base col embed input link meta param source track wbr"_L1, Layout::Nothing},
-    {"article aside blockquote body center details div dl fieldset figcaption figure footer form head "
-     "header html main nav section summary table tbody tfoot thead"_L1,
+    {"article aside blockquote body center details dialog div dl fieldset figcaption figure footer form head "
+     "header hgroup html main nav search section summary table tbody tfoot thead"_L1,
      Layout::Block},
     {"b strong"_L1, Layout::Inline, Look::Bold},
     {"br"_L1, Layout::Break},

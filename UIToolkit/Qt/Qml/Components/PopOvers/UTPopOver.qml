@@ -200,15 +200,9 @@ Item {
                 }
 
                 onSceneChanged: control.updatePosition()
-                // Whether the focus is here or in a window of this one. The window's own "active" is true in all windows that
-                // belong together, so also while the target's has the focus.
-                function holds(focusWindow: var): bool {
-                    return Boolean(focusWindow) && (focusWindow === popOverWindow || UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow));
-                }
-
                 onActiveChanged: {
                     hasBeenActive = true;
-                    const holdsFocus = holds(App.focusWindow());
+                    const holdsFocus = priv.isIn(popOverWindow, App.focusWindow());
                     if (holdsFocus !== heldFocus) {
                         heldFocus = holdsFocus;
                         control.popoverWindowActiveChanged(holdsFocus);
@@ -240,7 +234,7 @@ Item {
                     enabled: control.automaticClose
 
                     function onFocusWindowChanged(focusWindow: var): void {
-                        if (popOverWindow.holds(focusWindow) && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
+                        if (priv.isIn(popOverWindow, focusWindow) && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
                             focusLoss.stop();
                         else if (focusWindow && popOverWindow.hasBeenActive && !(focusWindow === popOverWindow.scene && priv.isMouseOver(control.targetItem)))
                             control.active = false;
@@ -322,6 +316,12 @@ Item {
             }
         }
 
+        //! Whether the focus is in \a opened or in a window of that. The window's own "active" is true in all windows that
+        //! belong together, so also while the target's has the focus.
+        function isIn(opened: var, focusWindow: var): bool {
+            return Boolean(focusWindow) && (focusWindow === opened || UIToolKitUtils.isAncestorOf(opened, focusWindow));
+        }
+
         function targetRect(): rect {
             const target = control.targetItem;
             if (!target)
@@ -386,7 +386,7 @@ Item {
             control.windowComponentInstance = null;
             // Back to where it was opened from, unless the focus has gone elsewhere by itself; while the focus is still
             // here to be given away.
-            if (closing["holds"](App.focusWindow()) && control.targetItem?.Window.window)
+            if (isIn(closing, App.focusWindow()) && control.targetItem?.Window.window)
                 control.targetItem.Window.window.requestActivate();
             closing.visible = false;
             closing.destroy();

@@ -118,6 +118,7 @@ private Q_SLOTS:
         row("replace by nothing", "type abc | caret 0 | replace  | type d", "<p>d</p>");
         row("undo takes the selection", "text ab\ncd | select 0,4 | heading 2,1 | undo | text x",
             "<p>ab</p><p>cxd</p>");
+        row("pending in one undo", "type a  | key Ctrl+B | type xy | undo", "<p>a </p>");
         row("lost bullet in one undo", "bullets | type a | key Home | key Backspace | type b | undo", "<p>a</p>");
         row("pictures go alone", "text a | picture | sanitise", "<p>a</p>");
         row("sanitise", "html <h1>a</h1><ul><li>b</ul> | sanitise", "<h1><b>a</b></h1><ul><li><p>b</p></li></ul>");

@@ -708,13 +708,17 @@ bool UTRichTextAreaData::insertTypedText(const QString &text, QTextCursor cursor
         return true;
     std::optional<QTextCharFormat> format = formatToInsert(cursor);
     // The bullets that come with it are to be undone with it; they cannot join a character that a text area types.
-    if (!format && m_automaticBullets && m_bulletListDirty && !cursor.isNull())
+    const bool bringsBullets = m_automaticBullets && m_bulletListDirty && !cursor.isNull();
+    if (!format && bringsBullets)
         format = cursor.charFormat();
     if (!format)
         return false;
-    cursor.beginEditBlock();
+    // Elsewhere without an edit block, for what is typed next would not join that.
+    if (bringsBullets)
+        cursor.beginEditBlock();
     cursor.insertText(text, *format);
-    cursor.endEditBlock();
+    if (bringsBullets)
+        cursor.endEditBlock();
     return true;
 }
 

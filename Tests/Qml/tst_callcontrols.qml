@@ -1,5 +1,6 @@
 import QtQuick
 import UIToolkitQml 1.0
+import UIToolkitQml_Private_Data 1.0
 import "qrc:/qt/qml/UIToolkitQml/ButtonBase.js" as Script
 
 ToolkitTestCase {
@@ -82,6 +83,9 @@ ToolkitTestCase {
         compareProperties(button, { implicitWidth: 40, "leftButton.width": 100, "rightButton.visible": false });
         button.buttonType = UTCallControlButtonEnum.Panel;
         compare(button.implicitWidth, 40, "round without a label");
+        button.UTCallControlButtonData.buttonType = UTCallControlButtonEnum.KorvuAssistant;
+        compare(button.UTCallControlButtonData.leftIconSize.width, 20, "waits for the size");
+        button.UTCallControlButtonData.buttonType = UTCallControlButtonEnum.Panel;
         button.text = "People";
         verify(button.implicitWidth > 16 + 20 + 6 + 16);
         button.width = 200;

@@ -93,15 +93,14 @@ KFrame {
     signal rightToggled()
 
     UTCallControlButtonData.themeType: themeType
-    UTCallControlButtonData.metricsFollowType: true
-    UTCallControlButtonData.buttonType: UTCallControlButtonEnum.Round
+    UTCallControlButtonData.typeWithMetrics: UTCallControlButtonEnum.Round
 
     radius: 1000 // cut down to what the height allows
     controlsTarget: null // at rest, which most buttons always are: see the script's follow()
 
     // Handlers in place of bindings: most buttons keep the first values, and have nothing but an icon.
     onButtonTypeChanged: {
-        UTCallControlButtonData.buttonType = buttonType;
+        UTCallControlButtonData.typeWithMetrics = buttonType;
         CallControl.arrange(control, leftHalf, UTCallControlButtonData, KBasicFocusItem.RectangularCorner);
     }
     onButtonStyleChanged: UTCallControlButtonData.buttonStyle = buttonStyle

@@ -168,7 +168,13 @@ void UTCallControlButtonData::updateButtonType()
         setCanShowBadge(flags.canShowBadge.value_or(m_canShowBadge));
     }
     updatePanelPadding();
-    if (m_metricsFollowType)
+}
+
+void UTCallControlButtonData::setTypeWithMetrics(ButtonType type)
+{
+    const Update update(this);
+    setButtonType(type);
+    if (m_button)
         updateButtonSize();
 }
 

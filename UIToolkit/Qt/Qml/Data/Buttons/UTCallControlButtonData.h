@@ -79,9 +79,8 @@ class UTCallControlButtonData : public KObject
     Q_PROPERTY(QString themeType READ themeType WRITE setThemeType NOTIFY themeTypeChanged FINAL)
     //! The colours of everything that lies on the button.
     Q_PROPERTY(KColorSet textColorSet READ textColorSet NOTIFY textColorSetChanged FINAL)
-    //! Whether a change of the type has the metrics follow at once; the component's to say, false by default.
-    Q_PROPERTY(
-        bool metricsFollowType READ metricsFollowType WRITE setMetricsFollowType NOTIFY metricsFollowTypeChanged FINAL)
+    //! For the component to write: sets buttonType, and has the metrics follow at once.
+    Q_PROPERTY(UTCallControlButtonEnum::ButtonType typeWithMetrics READ buttonType WRITE setTypeWithMetrics FINAL)
     //! What the label and the right half add to the width of the button, and the least height that the label
     //! needs; the component's to say, 0 by default.
     Q_PROPERTY(qreal labelRoom READ labelRoom WRITE setLabelRoom NOTIFY labelRoomChanged FINAL)
@@ -124,7 +123,6 @@ public:
     bool canShowBadge() const { return m_canShowBadge; }
     QString themeType() const { return m_themeType; }
     KColorSet textColorSet() const { return m_textColorSet; }
-    bool metricsFollowType() const { return m_metricsFollowType; }
     qreal labelRoom() const { return m_labelRoom; }
     qreal labelHeight() const { return m_labelHeight; }
     qreal rightRoom() const { return m_rightRoom; }
@@ -178,7 +176,7 @@ public:
     void setRightIconSize(const QSize &size) { set(m_rightIconSize, size, &Self::rightIconSizeChanged); }
     void setCanShowBadge(bool can) { set(m_canShowBadge, can, &Self::canShowBadgeChanged); }
     void setThemeType(const QString &themeType) { set(m_themeType, themeType, &Self::themeTypeChanged); }
-    void setMetricsFollowType(bool follow) { set(m_metricsFollowType, follow, &Self::metricsFollowTypeChanged); }
+    void setTypeWithMetrics(UTCallControlButtonEnum::ButtonType type);
     void setLabelRoom(qreal room) { set(m_labelRoom, room, &Self::labelRoomChanged); }
     void setLabelHeight(qreal height) { set(m_labelHeight, height, &Self::labelHeightChanged); }
     void setRightRoom(qreal room) { set(m_rightRoom, room, &Self::rightRoomChanged); }
@@ -219,7 +217,6 @@ Q_SIGNALS:
     void canShowBadgeChanged();
     void themeTypeChanged();
     void textColorSetChanged();
-    void metricsFollowTypeChanged();
     void labelRoomChanged();
     void labelHeightChanged();
     void rightRoomChanged();
@@ -296,7 +293,6 @@ private:
     bool m_separatorVisible = false;
     bool m_rightButtonVisible = false;
     bool m_canShowBadge = true;
-    bool m_metricsFollowType = false;
     bool m_leftChecked = false;
 };
 

@@ -118,6 +118,7 @@ private Q_SLOTS:
         row("replace by nothing", "type abc | caret 0 | replace  | type d", "<p>d</p>");
         row("undo takes the selection", "text ab\ncd | select 0,4 | heading 2,1 | undo | text x",
             "<p>ab</p><p>cxd</p>");
+        row("caret at the end of everything", "type ab | caret 0 | key Ctrl+A | key Right | text c", "<p>abc</p>");
         row("pending in one undo", "type a  | key Ctrl+B | type xy | undo", "<p>a </p>");
         row("lost bullet in one undo", "bullets | type a | key Home | key Backspace | type b | undo", "<p>a</p>");
         row("pictures go alone", "text a | picture | sanitise", "<p>a</p>");

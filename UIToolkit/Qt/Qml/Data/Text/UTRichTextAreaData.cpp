@@ -237,6 +237,7 @@ void UTRichTextAreaData::onTextAreaChanged()
     if (m_watchedArea)
         m_watchedArea->removeEventFilter(this);
     m_watchedArea = m_textArea;
+    m_followsTextArea = false;
     if (m_textArea)
         m_textArea->installEventFilter(this);
 }
@@ -266,6 +267,7 @@ void UTRichTextAreaData::onTextDocumentChanged()
 
 void UTRichTextAreaData::onCursorPositionChanged()
 {
+    compareWithTextArea();
     setShouldApplyNewFormatting(false);
     syncFormattingState();
     updateLinkBoundaryState();
@@ -293,34 +295,57 @@ void UTRichTextAreaData::onDocumentContentsChanged()
         setShouldApplyNewFormatting(false);
     syncFormattingState();
     updateLinkBoundaryState();
-    followUndoneSelection();
+    if (m_followsTextArea)
+        QMetaObject::invokeMethod(this, &UTRichTextAreaData::followTextArea, Qt::QueuedConnection);
 }
 
-// Undo takes the selection from Qt's text area, which does not tell of it.
-void UTRichTextAreaData::followUndoneSelection()
+int UTRichTextAreaData::shownPosition(const char *name) const
 {
-    const auto isShown = [this] {
-        return m_textArea && m_textArea->property("selectionStart") == m_selectionStart
-            && m_textArea->property("selectionEnd") == m_selectionEnd;
-    };
-    if (m_selectionStart == m_selectionEnd || !isShown())
+    return m_textArea ? m_textArea->property(name).toInt() : -1;
+}
+
+// Whether the positions are those of the text area. Somebody may set them to others, which then are not to be touched.
+void UTRichTextAreaData::compareWithTextArea()
+{
+    m_followsTextArea = shownPosition("cursorPosition") == m_cursorPosition
+        && shownPosition("selectionStart") == m_selectionStart && shownPosition("selectionEnd") == m_selectionEnd;
+}
+
+// Qt's text area does not tell of all it does. Selecting everything moves its caret.
+void UTRichTextAreaData::followCaret()
+{
+    const bool isSameSelection =
+        shownPosition("selectionStart") == m_selectionStart && shownPosition("selectionEnd") == m_selectionEnd;
+    if (isSameSelection && (m_followsTextArea || m_selectionStart != m_selectionEnd))
+        setCursorPosition(shownPosition("cursorPosition"));
+    compareWithTextArea();
+}
+
+// And undo moves the caret and takes the selection.
+void UTRichTextAreaData::followTextArea()
+{
+    if (!m_textArea)
         return;
-    const auto follow = [this, isShown] {
-        if (!m_textArea || isShown())
-            return;
-        setSelectionStart(m_textArea->property("selectionStart").toInt());
-        setSelectionEnd(m_textArea->property("selectionEnd").toInt());
-    };
-    QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection);
+    const int caret = shownPosition("cursorPosition");
+    const int start = shownPosition("selectionStart");
+    const int end = shownPosition("selectionEnd");
+    // It tells of its next selection only if that differs from the last that it told of.
+    if (start != m_selectionStart || end != m_selectionEnd)
+        QMetaObject::invokeMethod(m_textArea, "select", Q_ARG(int, caret == start ? end : start), Q_ARG(int, caret));
+    setSelectionStart(start);
+    setSelectionEnd(end);
+    setCursorPosition(caret);
 }
 
 void UTRichTextAreaData::onSelectionStartChanged()
 {
+    followCaret();
     syncFormattingState();
 }
 
 void UTRichTextAreaData::onSelectionEndChanged()
 {
+    followCaret();
     syncFormattingState();
 }
 

@@ -206,7 +206,10 @@ private:
     QColor linkQColor() const { return m_linkColor.value<QColor>(); }
 
     void layOutUntoldChanges();
-    void followUndoneSelection();
+    int shownPosition(const char *name) const;
+    void compareWithTextArea();
+    void followCaret();
+    void followTextArea();
     void syncFormattingState();
     void updateLinkBoundaryState();
 
@@ -253,6 +256,7 @@ private:
     bool m_shouldRemoveLinkFormatting = false;
     bool m_readOnly = false;
     bool m_isComposing = false;
+    bool m_followsTextArea = false;
     bool m_mayHideChanges = false; // the last edit of the document; see layOutUntoldChanges()
     QVariant m_linkColor = QColor(Qt::blue);
     QTextCharFormat m_charFormat;

@@ -1,6 +1,6 @@
 /*!
-    What a button needs once the pointer or the focus has been on it: the activating keys, and the tool tip and the focus
-    ring, each made when first shown. Made by UTButtonBase.
+    What a button needs once the pointer or the focus has been on it: the activating keys, what is said while it has the
+    focus, and the tool tip and the focus ring, each made when first shown. Made by UTButtonBase.
 
     \qml
     ButtonAttention { control: button }
@@ -19,6 +19,18 @@ QtObject {
     readonly property bool hasKeyboardFocus: control.activeFocus && App.isKeyboardFocus
     readonly property bool isTipWanted: control.shouldTooltipBeDisplayed && (control.hovered || hasKeyboardFocus)
         && Script.tooltipText(control).length > 0
+
+    readonly property Connections announcements: Connections {
+        target: attention.control
+
+        function onCheckedChanged(): void {
+            if (attention.control.announceStateChange)
+                Script.say(attention.control, attention.control.checked ? qsTr("Checked") : qsTr("Unchecked"));
+        }
+        function onAccessibleTextChanged(): void {
+            Script.say(attention.control, attention.control.accessibleText);
+        }
+    }
 
     onHasKeyboardFocusChanged: {
         const settings = {};

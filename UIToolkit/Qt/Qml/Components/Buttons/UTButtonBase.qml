@@ -54,11 +54,6 @@ T.Button {
         isKeyPressed = false;
         Script.attend(control);
     }
-    onCheckedChanged: {
-        if (announceStateChange)
-            Script.say(control, checked ? qsTr("Checked") : qsTr("Unchecked"));
-    }
-    onAccessibleTextChanged: Script.say(control, accessibleText)
 
     // The text is the name without further ado; an application that names the button itself knows better.
     onTooltipChanged: {

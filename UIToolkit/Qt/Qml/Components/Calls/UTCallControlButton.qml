@@ -80,12 +80,12 @@ KFrame {
 
     //! The halves, to place a menu beside one for example. There is no right one before the type asks for it.
     readonly property alias leftButton: leftHalf
-    property PillHalf rightButton: null
+    property PillHalf rightButton
 
-    // For the script: what shows the state of a button of two halves; null while that is the left half.
-    property var ground: null
-    // Whose state the left half shows; null while it has not left its state of rest.
-    property var leftState: null
+    // For the script: what shows the state of a button of two halves; undefined while that is the left half.
+    property var ground
+    // Whose state the left half shows; undefined while it has not left its state of rest.
+    property var leftState
 
     signal leftClicked()
     signal rightClicked()

@@ -227,8 +227,9 @@ private Q_SLOTS:
             {"UTRoundButton", make<UTRoundButtonData>},
             {"UTTextButton", make<UTTextButtonData>},
         };
-        const QList<QByteArray> inputs = {"style",      "size",       "type",        "colorStyle", "sizeStyle",
-                                          "buttonType", "buttonSize", "buttonStyle", "showText",   "originalText"};
+        const QList<QByteArray> inputs = {"style",     "size",         "type",           "colorStyle",
+                                          "sizeStyle", "buttonType",   "buttonSize",     "buttonStyle",
+                                          "showText",  "originalText", "typeWithMetrics"};
         for (const auto &[component, create] : kinds) {
             for (QObject *attachee : {static_cast<QObject *>(this), static_cast<QObject *>(nullptr)}) {
                 expectMisplaced(component);

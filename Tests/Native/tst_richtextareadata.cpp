@@ -444,7 +444,7 @@ private:
         } else if (verb == "picture"_L1) {
             QTextCursor cursor(document());
             cursor.movePosition(QTextCursor::End);
-            cursor.insertImage(QString());
+            cursor.insertImage(u"qrc:/Resources/coverImageSpinner.gif"_s);
         } else if (verb == "sanitise"_L1) {
             m_data->removeUnsupportedFormats();
         } else if (verb == "undo"_L1 || verb == "redo"_L1) {

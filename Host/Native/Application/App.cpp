@@ -62,11 +62,6 @@ KColorSet App::getColorSet(const QString &name, const QString &themeType) const
     return KThemeUtils::getColorSet(name.toUtf8(), KThemeUtils::stringToThemeType(themeType));
 }
 
-QWindow *App::focusWindow() const
-{
-    return QGuiApplication::focusWindow();
-}
-
 void App::setKeyboardFocus(bool keyboardFocus)
 {
     if (m_keyboardFocus == keyboardFocus)

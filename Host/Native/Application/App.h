@@ -41,9 +41,6 @@ public:
     qreal textScale() const { return m_textScale; }
     void setTextScale(qreal scale);
 
-    //! The window of the application that has the focus, or null.
-    Q_INVOKABLE QWindow *focusWindow() const;
-
     //! True while Tab or Backtab is held down, so in handlers of the focus change that the key causes.
     Q_INVOKABLE bool isTabKeyPressed() const { return m_tabKeyPressed; }
     //! True while a mouse button or a finger is held down.

@@ -164,7 +164,9 @@ Item {
                 //! The target's, of any class: an application written in C++ may show its items in a QQuickView.
                 readonly property var scene: control.targetItem?.Window.window ?? null
                 property bool hasBeenActive: !control.showWithActive
-                property bool heldFocus
+                //! Whether the focus is here or in a window of this one. "active" is true in all windows that belong together,
+                //! so also while the target's has the focus.
+                property bool holdsFocus
                 //! Since content or target last changed.
                 property int sizings
 
@@ -200,14 +202,8 @@ Item {
                 }
 
                 onSceneChanged: control.updatePosition()
-                onActiveChanged: {
-                    hasBeenActive = true;
-                    const holdsFocus = priv.isIn(popOverWindow, App.focusWindow());
-                    if (holdsFocus !== heldFocus) {
-                        heldFocus = holdsFocus;
-                        control.popoverWindowActiveChanged(holdsFocus);
-                    }
-                }
+                onActiveChanged: hasBeenActive = true
+                onHoldsFocusChanged: control.popoverWindowActiveChanged(holdsFocus)
                 onClosing: control.active = false
 
                 Connections {
@@ -231,10 +227,12 @@ Item {
                 }
                 Connections {
                     target: App
-                    enabled: control.automaticClose
 
                     function onFocusWindowChanged(focusWindow: var): void {
-                        if (priv.isIn(popOverWindow, focusWindow) && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
+                        popOverWindow.holdsFocus = Boolean(focusWindow) && (focusWindow === popOverWindow || UIToolKitUtils.isAncestorOf(popOverWindow, focusWindow));
+                        if (!control.automaticClose)
+                            return;
+                        if (popOverWindow.holdsFocus && !(control.hasFocusItem && !popOverWindow.activeFocusItem))
                             focusLoss.stop();
                         else if (focusWindow && popOverWindow.hasBeenActive && !(focusWindow === popOverWindow.scene && priv.isMouseOver(control.targetItem)))
                             control.active = false;
@@ -316,12 +314,6 @@ Item {
             }
         }
 
-        //! Whether the focus is in \a opened or in a window of that. The window's own "active" is true in all windows that
-        //! belong together, so also while the target's has the focus.
-        function isIn(opened: var, focusWindow: var): bool {
-            return Boolean(focusWindow) && (focusWindow === opened || UIToolKitUtils.isAncestorOf(opened, focusWindow));
-        }
-
         function targetRect(): rect {
             const target = control.targetItem;
             if (!target)
@@ -386,7 +378,7 @@ Item {
             control.windowComponentInstance = null;
             // Back to where it was opened from, unless the focus has gone elsewhere by itself; while the focus is still
             // here to be given away.
-            if (isIn(closing, App.focusWindow()) && control.targetItem?.Window.window)
+            if (closing["holdsFocus"] && control.targetItem?.Window.window)
                 control.targetItem.Window.window.requestActivate();
             closing.visible = false;
             closing.destroy();

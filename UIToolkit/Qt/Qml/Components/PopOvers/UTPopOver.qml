@@ -373,12 +373,15 @@ Item {
 
         function destroyWindow(): void {
             const closing = control.windowComponentInstance;
-            if (!closing)
-                return;
             control.windowComponentInstance = null;
+            if (closing)
+                retire(closing);
+        }
+
+        function retire(closing: var): void {
             // Back to where it was opened from, unless the focus has gone elsewhere by itself; while the focus is still
             // here to be given away.
-            if (closing["holdsFocus"] && control.targetItem?.Window.window)
+            if (closing.holdsFocus && control.targetItem?.Window.window)
                 control.targetItem.Window.window.requestActivate();
             closing.visible = false;
             closing.destroy();
